@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+/// The single-byte code page of all data files: Windows-1252. Its five unassigned bytes map to the
+/// control characters of the same code, so that every byte read is the same byte written.
+
+/// A character that the code page lacks becomes "?".
+QByteArray ToCodePage(QStringView text);
+QString FromCodePage(QByteArrayView bytes);
+bool IsInCodePage(QStringView text);

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "platform/Operator.h"
+
+/// The operator at the desktop: the toolkit's own dialogs over the window in front.
+class DesktopOperator : public Operator {
+public:
+    Answer MsgBox(const QString& text, Buttons buttons, const QString& title) override;
+    std::optional<QString> InputBox(const QString& prompt, const QString& title,
+                                    const QString& proposal) override;
+    void Beep() override;
+    void ShowBusy(bool busy) override;
+};

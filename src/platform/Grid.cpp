@@ -1,0 +1,103 @@
+#include "platform/Grid.h"
+
+#include "platform/Theme.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double rowHeights = 1.9;
+constexpr double columnGap = 0.3;
+constexpr double widestColumn = 20;
+
+} // namespace
+
+Grid::Grid(GridModel& gridModel, QWidget* parent) : QTableView(parent), grid(gridModel) {
+    setModel(&grid);
+    setShowGrid(false);
+    setAlternatingRowColors(true);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(Em(rowHeights));
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(true);
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setMinimumHeight(Em(rowHeights));
+
+    connect(&grid, &GridModel::CurrentChanged, this, &Grid::FollowModel);
+    connect(this, &QTableView::clicked, this,
+            [this](const QModelIndex& index) { Q_EMIT Clicked(index.row() + 1, index.column()); });
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
+            [this](int column) { Q_EMIT Clicked(0, column); });
+}
+
+void Grid::SetEmptyHint(const QString& text) {
+    emptyHint = text;
+    viewport()->update();
+}
+
+void Grid::FitColumns() {
+    for (int column = 0; column < grid.Columns(); ++column) {
+        const int width = qMax(sizeHintForColumn(column),
+                               horizontalHeader()->sectionSizeHint(column)) +
+                          Em(columnGap);
+        setColumnWidth(column, qMin(width, Em(widestColumn)));
+    }
+}
+
+void Grid::FollowModel(int row, int column) {
+    if (row < 1) {
+        clearSelection();
+        return;
+    }
+    const QModelIndex cell = grid.index(row - 1, column);
+    if (currentIndex() != cell)
+        setCurrentIndex(cell);
+}
+
+void Grid::currentChanged(const QModelIndex& now, const QModelIndex& before) {
+    QTableView::currentChanged(now, before);
+    if (now.isValid())
+        grid.SetCurrent(now.row() + 1, now.column());
+}
+
+void Grid::keyPressEvent(QKeyEvent* event) {
+    const bool isCommand = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    const QString text = event->text();
+    if (!isCommand && text.size() == 1 && event->key() != Qt::Key_Tab &&
+        event->key() != Qt::Key_Escape)
+        Q_EMIT KeyPressed(text[0].unicode());
+    else
+        QTableView::keyPressEvent(event);
+}
+
+bool Grid::IsEmpty() const {
+    if (grid.DataRows() == 0)
+        return true;
+    if (grid.DataRows() > 1)
+        return false;
+    for (int column = 0; column < grid.Columns(); ++column) {
+        if (!grid.Text(1, column).isEmpty())
+            return false;
+    }
+    return true;
+}
+
+void Grid::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (emptyHint.isEmpty() || !IsEmpty())
+        return;
+    QPainter painter(viewport());
+    painter.setPen(Theme::Current().softText);
+    painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, emptyHint);
+}

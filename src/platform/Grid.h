@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/GridModel.h"
+
+#include <QTableView>
+
+/// The grid control: a table view over a GridModel, showing its row 0 as the heading and following
+/// its current cell.
+class Grid : public QTableView {
+    Q_OBJECT
+
+public:
+    explicit Grid(GridModel& gridModel, QWidget* parent = nullptr);
+
+    /// What an empty grid says instead of rows.
+    void SetEmptyHint(const QString& text);
+    /// Widths by the contents, the last visible column takes what is left.
+    void FitColumns();
+
+Q_SIGNALS:
+    /// Rows count from 1; 0 is the heading.
+    void Clicked(int row, int column);
+    /// A key that stands for a character (Backspace 8, Enter 13).
+    void KeyPressed(ushort character);
+
+protected:
+    void currentChanged(const QModelIndex& now, const QModelIndex& before) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void FollowModel(int row, int column);
+    bool IsEmpty() const;
+
+    GridModel& grid;
+    QString emptyHint;
+};

@@ -1,0 +1,124 @@
+#include "platform/GridModel.h"
+
+#include "platform/RuntimeFailure.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+GridModel::GridModel(const QStringList& headings, QObject* parent)
+    : QAbstractTableModel(parent), cells(1, {headings.begin(), headings.end()}),
+      rightAligned(size_t(headings.size())) {}
+
+GridModel::Refill::Refill(GridModel& model) : grid(model) {
+    if (grid.refills++ == 0)
+        grid.beginResetModel();
+}
+
+GridModel::Refill::~Refill() {
+    if (--grid.refills > 0)
+        return;
+    grid.endResetModel();
+    Q_EMIT grid.CurrentChanged(grid.currentRow, grid.currentColumn);
+}
+
+void GridModel::CheckCell(int row, int column) const {
+    if (row < 0 || row >= Rows() || column < 0 || column >= Columns())
+        throw RuntimeFailure(FailureKind::Subscript,
+                             u"The grid has no cell in row %1, column %2."_s.arg(row).arg(column));
+}
+
+void GridModel::ClampCurrent() {
+    currentRow = std::min(currentRow, Rows() - 1);
+}
+
+void GridModel::SetRows(int rows) {
+    const Refill refill(*this);
+    cells.resize(size_t(std::max(rows, 1)), std::vector<QString>(size_t(Columns())));
+    ClampCurrent();
+}
+
+void GridModel::ClearGrid() {
+    const Refill refill(*this);
+    SetRows(1);
+    SetRows(2);
+}
+
+void GridModel::RemoveRow(int row) {
+    CheckCell(row, 0);
+    const Refill refill(*this);
+    cells.erase(cells.begin() + row);
+    ClampCurrent();
+}
+
+const QString& GridModel::Text(int row, int column) const {
+    CheckCell(row, column);
+    return cells[size_t(row)][size_t(column)];
+}
+
+void GridModel::SetText(int row, int column, const QString& text) {
+    CheckCell(row, column);
+    cells[size_t(row)][size_t(column)] = text;
+    if (refills > 0)
+        return;
+    if (row == 0)
+        Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
+    else
+        Q_EMIT dataChanged(index(row - 1, column), index(row - 1, column));
+}
+
+void GridModel::SetCurrent(int row, int column) {
+    CheckCell(row, column);
+    if (row == currentRow && column == currentColumn)
+        return;
+    currentRow = row;
+    currentColumn = column;
+    if (refills == 0)
+        Q_EMIT CurrentChanged(row, column);
+}
+
+void GridModel::Sort(int column, CellOrder isBefore) {
+    CheckCell(0, column);
+    const Refill refill(*this);
+    const auto at = size_t(column);
+    std::stable_sort(
+        cells.begin() + 1, cells.end(),
+        [&](const auto& one, const auto& other) { return isBefore(one[at], other[at]); });
+}
+
+void GridModel::AlignRight(int column) {
+    rightAligned.at(size_t(column)) = true;
+}
+
+QVariant GridModel::AlignmentOf(int column) const {
+    return int((rightAligned.at(size_t(column)) ? Qt::AlignRight : Qt::AlignLeft) |
+               Qt::AlignVCenter);
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : DataRows();
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : Columns();
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid())
+        return {};
+    if (role == Qt::TextAlignmentRole)
+        return AlignmentOf(index.column());
+    if (role != Qt::DisplayRole)
+        return {};
+    return Text(index.row() + 1, index.column());
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal)
+        return {};
+    if (role == Qt::TextAlignmentRole)
+        return AlignmentOf(section);
+    if (role != Qt::DisplayRole)
+        return {};
+    return Text(0, section);
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+enum class Buttons { Ok, YesNo };
+enum class Answer { Ok, Yes, No };
+
+/// The person at the screen, as the rule modules see them: someone to ask and to tell. The
+/// program answers with real dialogs; a test answers from a script.
+class Operator {
+public:
+    virtual ~Operator() = default;
+
+    /// Shows a message and waits for the answer. An empty title stands for the program's own.
+    virtual Answer MsgBox(const QString& text, Buttons buttons = Buttons::Ok,
+                          const QString& title = {}) = 0;
+
+    /// Asks for one line of text; nothing when the operator cancels.
+    virtual std::optional<QString> InputBox(const QString& prompt, const QString& title = {},
+                                            const QString& proposal = {}) = 0;
+
+    virtual void Beep() = 0;
+
+    /// Turns the mouse pointer into the hourglass, and back.
+    virtual void ShowBusy(bool busy) = 0;
+};
+
+/// The hourglass for as long as it lives.
+class BusyPointer {
+public:
+    explicit BusyPointer(Operator& person) : user(person) { user.ShowBusy(true); }
+    ~BusyPointer() { user.ShowBusy(false); }
+    BusyPointer(const BusyPointer&) = delete;
+    BusyPointer& operator=(const BusyPointer&) = delete;
+
+private:
+    Operator& user;
+};

@@ -1,0 +1,24 @@
+#include "platform/PrinterSurface.h"
+
+void PrinterSurface::PrintLine(const QString& text) {
+    Print(text);
+    CurrentX = 0;
+    CurrentY += TextHeight(text);
+}
+
+void PrinterSurface::Print(const QString& text) {
+    if (text.isEmpty())
+        return;
+    DrawText(CurrentX, CurrentY, text);
+    CurrentX += TextWidth(text);
+}
+
+void PrinterSurface::PrintEndingAt(double right, const QString& text) {
+    CurrentX = right - TextWidth(text);
+    Print(text);
+}
+
+void PrinterSurface::PrintCentred(const QString& text) {
+    CurrentX = (PageWidth() - TextWidth(text)) / 2;
+    PrintLine(text);
+}

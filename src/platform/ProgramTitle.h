@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+
+/// The application's title. It is not the toolkit's display name, which would be put behind every
+/// window's own title.
+inline QString ProgramTitle() {
+    return QStringLiteral("Tessel Delivery");
+}

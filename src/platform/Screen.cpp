@@ -1,0 +1,127 @@
+#include "platform/Screen.h"
+
+#include "platform/Theme.h"
+#include "platform/WindowLayout.h"
+
+#include <QAbstractButton>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int cardGap = 16;
+constexpr int cardSide = 16;
+constexpr int cardTop = 12;
+constexpr int bandSide = 20;
+constexpr int bandTop = 10;
+constexpr int controlGap = 8;
+
+QFrame* MakeBand(const QString& name) {
+    auto* band = Named(new QFrame, name);
+    auto* row = new QHBoxLayout(band);
+    row->setContentsMargins(bandSide, bandTop, bandSide, bandTop);
+    row->setSpacing(controlGap);
+    return band;
+}
+
+} // namespace
+
+Screen::Screen(const QString& name, const QString& title) {
+    setObjectName(name);
+    setWindowTitle(title);
+
+    body = Named(new QWidget, u"body"_s);
+    auto* scroll = new QScrollArea;
+    scroll->setWidget(body);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+
+    auto* whole = new QWidget;
+    auto* rows = new QVBoxLayout(whole);
+    rows->setContentsMargins({});
+    rows->setSpacing(0);
+    rows->addWidget(MakeHead(title));
+    rows->addWidget(scroll, 1);
+    rows->addWidget(MakeFoot());
+    setCentralWidget(whole);
+
+    WindowLayout::Restore(*this);
+}
+
+QWidget* Screen::MakeHead(const QString& caption) {
+    QFrame* head = MakeBand(u"headBand"_s);
+    captionLabel = Named(new QLabel(caption), u"caption"_s);
+    where = Named(new QLabel, u"where"_s);
+    QFont large = captionLabel->font();
+    constexpr double captionScale = 1.6;
+    large.setPointSizeF(large.pointSizeF() * captionScale);
+    large.setWeight(QFont::DemiBold);
+    captionLabel->setFont(large);
+    auto* row = static_cast<QHBoxLayout*>(head->layout());
+    row->addWidget(captionLabel);
+    row->addStretch(1);
+    row->addWidget(where);
+    return head;
+}
+
+QWidget* Screen::MakeFoot() {
+    QFrame* foot = MakeBand(u"footBand"_s);
+    auto* row = static_cast<QHBoxLayout*>(foot->layout());
+    wayBack = new QHBoxLayout;
+    actions = new QHBoxLayout;
+    row->addLayout(wayBack);
+    row->addStretch(1);
+    row->addLayout(actions);
+    return foot;
+}
+
+void Screen::SetCaption(const QString& caption) {
+    captionLabel->setText(caption);
+}
+
+void Screen::SetWhere(const QString& text) {
+    where->setText(text);
+}
+
+void Screen::AddWayBack(QWidget* control) {
+    wayBack->addWidget(control);
+}
+
+void Screen::AddAction(QWidget* control) {
+    actions->addWidget(control);
+}
+
+void Screen::AddMainAction(QAbstractButton* button) {
+    button->setProperty("mainAction", true);
+    AddAction(button);
+}
+
+void Screen::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    Q_EMIT ClosedByUser();
+}
+
+void Screen::hideEvent(QHideEvent* event) {
+    WindowLayout::Save(*this);
+    QMainWindow::hideEvent(event);
+}
+
+Card::Card(const QString& headingText, QWidget* parent)
+    : QFrame(parent), rows(new QVBoxLayout(this)), heading(new QLabel(headingText)) {
+    setProperty("card", true);
+    rows->setContentsMargins(cardSide, cardTop, cardSide, cardTop);
+    rows->setSpacing(controlGap);
+    heading->setProperty("cardHeading", true);
+    heading->setVisible(!headingText.isEmpty());
+    rows->addWidget(heading);
+}
+
+QString Indexed(const QString& name, int index) {
+    return u"%1(%2)"_s.arg(name).arg(index);
+}

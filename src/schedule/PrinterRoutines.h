@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/PrinterSurface.h"
+#include "setup/LiveSettings.h"
+
+enum class PrintColor : qint16 { Text = -1, Border = 0 };
+
+/// What every printing screen shares: preparing the printer, placing the pen, fonts, colours,
+/// wrapped text and the business heading.
+class PrinterRoutines {
+public:
+    PrinterRoutines(PrinterSurface& printerSurface, LiveSettings& liveSettings);
+
+    PrinterSurface& Surface() { return surface; }
+    /// The colour last chosen, 0x00BBGGRR.
+    quint32 CurrentPrintColor() const { return settings.CurrentPrintColor; }
+
+    /// Letter paper, the document font in black, no bold, no underline.
+    void PreparePrinter(Orientation orientation, bool inColor);
+    /// Inches. A value of zero or less leaves its axis alone.
+    void PositionAt(float x, float y);
+    /// Points; a size of zero or less leaves the size alone.
+    void SetPrintFont(int size, bool bold, bool underline);
+    /// With colour printing on, text is printed blue whatever the text colour setting says: that
+    /// one reaches the page through rules only.
+    void SetPrintColor(PrintColor selector);
+    /// Prints in lines of at most `width` between the given Y and Y plus `height`, all in twips.
+    /// What doesn't fit is dropped; a single word wider than the box is printed whole.
+    void PrintWrapped(double x, double y, int width, int height, const QString& text);
+    /// The business name and data as a block at a position in inches.
+    void PrintBusinessHeading(float x, float y, int size);
+
+private:
+    QString TakeLine(QString& rest, int width);
+    void PrintHeadingLine(float x, const QString& text);
+    void PrintHeadingAddress(float x);
+
+    PrinterSurface& surface;
+    LiveSettings& settings;
+};

@@ -1,0 +1,496 @@
+#include "schedule/frmPrintSchedules.h"
+
+#include "platform/DatePicker.h"
+#include "platform/Grid.h"
+#include "platform/Theme.h"
+#include "platform/UpDown.h"
+#include "startup/Office.h"
+#include "startup/Screens.h"
+#include "store/Conversions.h"
+#include "store/VerifyDataRoutines.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QRadioButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int cardGap = 12;
+constexpr int bodySide = 20;
+constexpr int bodyTop = 14;
+constexpr double sideWidth = 16.5;
+constexpr double workScheduleHeight = 5.2;
+constexpr double itemsHeight = 7;
+constexpr int addressLines = 6;
+
+QString ZeroAmount() {
+    return CurrencyText(Currency());
+}
+
+QListView* MakeList(const QString& name, const QString& accessibleName) {
+    auto* list = Named(new QListView, name);
+    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    list->setAccessibleName(accessibleName);
+    return list;
+}
+
+QLabel* SoftLabel(const QString& text) {
+    auto* label = new QLabel(text);
+    label->setProperty("soft", true);
+    return label;
+}
+
+} // namespace
+
+frmPrintSchedules::frmPrintSchedules(Office& theOffice, Screens& allScreens)
+    : Screen(u"frmPrintSchedules"_s, u"Print Delivery Schedules and Invoices"_s),
+      office(theOffice), screens(allScreens), board(theOffice.board) {
+    WhereLabel()->setObjectName(Indexed(u"Label1"_s, 14));
+
+    auto* left = new QVBoxLayout;
+    left->setSpacing(cardGap);
+    left->addWidget(MakeDateCard());
+    left->addWidget(MakeVehicleCard(), 1);
+    left->addWidget(MakeChargeCard());
+    auto* side = new QWidget;
+    side->setLayout(left);
+    left->setContentsMargins({});
+    side->setFixedWidth(Em(sideWidth));
+
+    auto* choices = new QHBoxLayout;
+    choices->setSpacing(cardGap);
+    choices->addWidget(MakeTaxCard());
+    choices->addWidget(MakePrintCard());
+    choices->addWidget(MakeWorkScheduleCard(), 1);
+
+    auto* right = new QVBoxLayout;
+    right->setSpacing(cardGap);
+    right->addWidget(MakeScheduleGrid(), 1);
+    right->addWidget(MakeSlipPanel());
+    right->addLayout(choices);
+
+    auto* columns = new QHBoxLayout(Body());
+    columns->setContentsMargins(bodySide, bodyTop, bodySide, bodyTop);
+    columns->setSpacing(cardGap);
+    columns->addWidget(side);
+    columns->addLayout(right, 1);
+
+    MakeFootButtons();
+}
+
+QPushButton* frmPrintSchedules::MakeButton(Button index, const QString& caption,
+                                           const QString& tip) {
+    auto* button = Named(new QPushButton(caption), Indexed(u"cmdPrint"_s, index));
+    button->setToolTip(tip);
+    connect(button, &QPushButton::clicked, this, [this, index] { cmdPrint_Click(index); });
+    cmdPrint[index] = button;
+    return button;
+}
+
+void frmPrintSchedules::MakeFootButtons() {
+    AddWayBack(MakeButton(ReturnToMenu, u"Return to &Menu"_s));
+    AddAction(MakeButton(SelectAll, u"&Select All"_s));
+    AddAction(MakeButton(DeselectAll, u"Deselect &All"_s));
+    AddAction(MakeButton(ToggleSlip, u"Toggle Delivery Slip"_s));
+    AddAction(MakeButton(AddItems, u"Add Items"_s, u"Not part of this version yet"_s));
+    AddMainAction(MakeButton(Print, u"&Print"_s));
+    cmdPrint[AddItems]->setEnabled(false);
+    cmdPrint[ToggleSlip]->setEnabled(false);
+}
+
+QWidget* frmPrintSchedules::MakeDateCard() {
+    auto* card = new Card(u"Date"_s);
+    DTPicker1 = Named(new DatePicker, u"DTPicker1"_s);
+    DTPicker1->setAccessibleName(u"Date of the deliveries"_s);
+    auto* upDown = new UpDown(u"UpDown1"_s, u"day"_s);
+    lblWeekday = Named(SoftLabel({}), u"lblWeekday"_s);
+    auto* row = new QHBoxLayout;
+    row->addWidget(DTPicker1, 1);
+    row->addWidget(upDown);
+    card->Rows()->addLayout(row);
+    card->Rows()->addWidget(lblWeekday);
+    connect(DTPicker1, &DatePicker::Changed, this, &frmPrintSchedules::DTPicker1_Change);
+    connect(upDown, &UpDown::UpClick, this,
+            [this] { DTPicker1_Change(DaysLater(board.DTPicker1, 1)); });
+    connect(upDown, &UpDown::DownClick, this,
+            [this] { DTPicker1_Change(DaysLater(board.DTPicker1, -1)); });
+    return card;
+}
+
+QWidget* frmPrintSchedules::MakeVehicleCard() {
+    auto* card = new Card(u"Vehicle"_s);
+    lstVehicles = MakeList(u"lstVehicles"_s, u"Vehicle"_s);
+    lstVehicles->setToolTip(u"Select an Assignment"_s);
+    lstVehicles->setModel(&office.fleet.Names);
+    card->Rows()->addWidget(lstVehicles, 1);
+    connect(lstVehicles->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &frmPrintSchedules::lstVehicles_Click);
+    return card;
+}
+
+QWidget* frmPrintSchedules::MakeChargeCard() {
+    auto* card = new Card(u"Delivery Charge"_s);
+    txtDeliveryCharge = Named(new QLineEdit, u"txtDeliveryCharge"_s);
+    txtDeliveryCharge->setAlignment(Qt::AlignRight);
+    txtDeliveryCharge->setAccessibleName(u"Delivery Charge"_s);
+    txtDeliveryCharge->installEventFilter(this);
+    auto* row = new QHBoxLayout;
+    row->addWidget(
+        MakeButton(EnterToGrid, u"Enter to Grid"_s, u"Enter Delivery Charge to the Grid"_s), 1);
+    row->addWidget(MakeButton(ClearCharge, u"Clear->"_s));
+    card->Rows()->addWidget(txtDeliveryCharge);
+    card->Rows()->addLayout(row);
+    connect(txtDeliveryCharge, &QLineEdit::textChanged, this,
+            [this](const QString& text) { board.txtDeliveryCharge = text; });
+    return card;
+}
+
+QWidget* frmPrintSchedules::MakeTaxCard() {
+    auto* card = new Card(u"Taxes"_s);
+    const QString choices[] = {u"Calculate Primary Tax ONLY"_s, u"Calculate Secondary Tax ONLY"_s,
+                               u"Calculate Both Taxes"_s};
+    // No option may be on, which exclusive radio buttons would not allow.
+    for (int i = 0; i < 3; ++i) {
+        optTax[size_t(i)] = Named(new QRadioButton(choices[i]), Indexed(u"optTax"_s, i));
+        optTax[size_t(i)]->setAutoExclusive(false);
+        connect(optTax[size_t(i)], &QRadioButton::clicked, this, [this, i] {
+            for (int other = 0; other < 3; ++other)
+                optTax[size_t(other)]->setChecked(other == i);
+            ReadTaxOptions();
+        });
+        card->Rows()->addWidget(optTax[size_t(i)]);
+    }
+    card->Rows()->addStretch(1);
+    return card;
+}
+
+QWidget* frmPrintSchedules::MakePrintCard() {
+    auto* card = new Card(u"Print"_s);
+    ckPrintWorkSchedule =
+        Named(new QCheckBox(u"Print Delivery Schedule"_s), u"ckPrintWorkSchedule"_s);
+    ckPrintWorkSchedule->setToolTip(u"If checked, Delivery List will Print"_s);
+    ckPrintWorkSchedule->setChecked(true);
+    ckMInvoices = Named(new QCheckBox(u"Print Invoices"_s), u"ckMInvoices"_s);
+    ckMInvoices->setToolTip(u"Not part of this version yet"_s);
+    ckMInvoices->setEnabled(false);
+    ckPopulated = Named(new QCheckBox(u"Populate Invoices"_s), u"ckPopulated"_s);
+    ckPopulated->setToolTip(u"Unchecked- Prints Blank Invoices"_s);
+    for (QCheckBox* box : {ckPrintWorkSchedule, ckMInvoices, ckPopulated})
+        card->Rows()->addWidget(box);
+    card->Rows()->addStretch(1);
+    return card;
+}
+
+QWidget* frmPrintSchedules::MakeWorkScheduleCard() {
+    auto* card = new Card(u"Scheduled Deliveries"_s);
+    lstWorkSchedule = MakeList(u"lstWorkSchedule"_s, u"Scheduled Deliveries"_s);
+    lstWorkSchedule->setModel(&board.lstWorkSchedule);
+    lstWorkSchedule->setFixedHeight(Em(workScheduleHeight));
+    card->Rows()->addWidget(lstWorkSchedule, 1);
+    return card;
+}
+
+QWidget* frmPrintSchedules::MakeScheduleGrid() {
+    board.fgSchedule.AlignRight(int(ScheduleColumn::DeliveryCharge));
+    fgSchedule = Named(new Grid(board.fgSchedule), u"fgSchedule"_s);
+    fgSchedule->setAccessibleName(u"Deliveries of the day"_s);
+    fgSchedule->setColumnHidden(int(ScheduleColumn::TimeSortKey), true);
+    fgSchedule->setMinimumHeight(Em(itemsHeight));
+    connect(fgSchedule, &Grid::Clicked, this, &frmPrintSchedules::fgSchedule_Click);
+    connect(fgSchedule, &Grid::KeyPressed, this, &frmPrintSchedules::fgSchedule_KeyPress);
+    return fgSchedule;
+}
+
+QLabel* frmPrintSchedules::MakeCaption(const QString& name) {
+    auto* label = Named(new QLabel, name);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    captions[name] = label;
+    return label;
+}
+
+QLabel* frmPrintSchedules::Caption(const QString& name) const {
+    return captions.at(name);
+}
+
+QWidget* frmPrintSchedules::MakeSlipPanel() {
+    fraSlip = Named(new Card(u"Delivery Slip"_s), u"fraSlip"_s);
+    for (const int amount : {0, 2, 3})
+        board.fgItems.AlignRight(amount);
+    fgItems = Named(new Grid(board.fgItems), u"fgItems"_s);
+    fgItems->setAccessibleName(u"Goods on the delivery slip"_s);
+    fgItems->setMinimumHeight(Em(itemsHeight));
+    auto* contents = new QHBoxLayout;
+    contents->setSpacing(cardGap);
+    contents->addWidget(MakeSlipAddresses());
+    contents->addWidget(fgItems, 1);
+    auto* foot = new QHBoxLayout;
+    foot->addWidget(MakeSlipAmounts());
+    foot->addStretch(1);
+    foot->addWidget(MakeButton(CloseSlip, u"Close Window without Updating Slip"_s));
+    fraSlip->Rows()->addLayout(contents);
+    fraSlip->Rows()->addLayout(foot);
+    fraSlip->hide();
+    return fraSlip;
+}
+
+QWidget* frmPrintSchedules::MakeSlipAddresses() {
+    const QString headings[addressLines] = {u"Name"_s, u"Street"_s, u"Apt"_s,
+                                            u"City"_s, u"St"_s,     u"Zip"_s};
+    auto* block = new QWidget;
+    auto* rows = new QGridLayout(block);
+    rows->setContentsMargins({});
+    rows->setHorizontalSpacing(cardGap);
+    rows->setVerticalSpacing(2);
+    rows->addWidget(MakeCaption(u"lblAcctNo"_s), 0, 1);
+    rows->addWidget(MakeCaption(u"lblTime"_s), 0, 2);
+    for (int i = 0; i < addressLines; ++i) {
+        auto* heading = SoftLabel(headings[i]);
+        heading->setAlignment(Qt::AlignRight);
+        rows->addWidget(heading, i + 1, 0);
+        rows->addWidget(MakeCaption(Indexed(u"lblCustomer"_s, i)), i + 1, 1);
+        rows->addWidget(MakeCaption(Indexed(u"txtShipto"_s, i)), i + 1, 2);
+    }
+    rows->setColumnStretch(1, 1);
+    rows->setColumnStretch(2, 1);
+    return block;
+}
+
+QWidget* frmPrintSchedules::MakeAmount(const QString& heading, const QString& name) {
+    auto* block = new QWidget;
+    auto* rows = new QVBoxLayout(block);
+    rows->setContentsMargins({});
+    rows->setSpacing(0);
+    rows->addWidget(SoftLabel(heading));
+    auto* amount = MakeCaption(name);
+    amount->setProperty("strong", true);
+    rows->addWidget(amount);
+    return block;
+}
+
+QWidget* frmPrintSchedules::MakeSlipAmounts() {
+    auto* block = new QWidget;
+    auto* row = new QHBoxLayout(block);
+    row->setContentsMargins({});
+    row->setSpacing(2 * cardGap);
+    row->addWidget(MakeAmount(u"Sub-Total"_s, u"lblTotal"_s));
+    row->addWidget(MakeAmount(u"Delivery Charge"_s, u"lblCharge"_s));
+
+    fraTax = Named(new QWidget, u"fraTax"_s);
+    auto* taxes = new QGridLayout(fraTax);
+    taxes->setContentsMargins({});
+    taxes->setVerticalSpacing(0);
+    taxes->setHorizontalSpacing(2 * cardGap);
+    for (int i = 1; i <= 2; ++i) {
+        QLabel* heading = MakeCaption(u"lblTaxHeading"_s + QString::number(i));
+        heading->setProperty("soft", true);
+        QLabel* amount = MakeCaption(u"lblTax"_s + QString::number(i));
+        amount->setProperty("strong", true);
+        taxes->addWidget(heading, 0, i - 1);
+        taxes->addWidget(amount, 1, i - 1);
+    }
+    row->addWidget(fraTax);
+    row->addWidget(MakeAmount(u"Total"_s, u"lblGrandtotal"_s));
+    fraInvoiceNo = Named(MakeAmount(u"Invoice No (if Printed)"_s, u"lblInvoice"_s),
+                         u"fraInvoiceNo"_s);
+    row->addWidget(fraInvoiceNo);
+    return block;
+}
+
+void frmPrintSchedules::Activate() {
+    // The table may still hold slips that have been deleted or moved since it was taken, by the
+    // start's look at past slips for one.
+    office.slips.LoadSlips(false);
+    if (!isPrepared) {
+        isPrepared = true;
+        Initform();
+    }
+}
+
+void frmPrintSchedules::Initform() {
+    board.Initform();
+    QDate today = office.machine.clock.Today();
+    DTPicker1_Change(office.calendar.NextAvailableWorkDay(today));
+    const QModelIndex first = office.fleet.Names.index(0);
+    if (first.isValid()) {
+        lstVehicles->setCurrentIndex(first);
+        lstVehicles_Click();
+    }
+    cmdPrint[ToggleSlip]->setEnabled(false);
+    ShowTaxOptions();
+    ckPopulated->setChecked(office.settings.ckPopulateInvoices == 1);
+    ShowCharge();
+    fgSchedule->setFocus();
+}
+
+void frmPrintSchedules::ShowBoard() {
+    if (!board.lstVehicles.isEmpty())
+        SetWhere(board.lstVehicles + u" - "_s + ShortDateText(board.DTPicker1));
+    DTPicker1->SetDate(board.DTPicker1);
+    lblWeekday->setText(WeekdayName(WeekdayNumber(board.DTPicker1)));
+    fgSchedule->SetEmptyHint(board.lstVehicles.isEmpty()
+                                 ? u"Pick a vehicle to see its deliveries."_s
+                                 : u"No deliveries for %1 on this day."_s.arg(board.lstVehicles));
+    fgSchedule->FitColumns();
+}
+
+void frmPrintSchedules::ShowCharge() {
+    txtDeliveryCharge->setText(board.txtDeliveryCharge);
+}
+
+void frmPrintSchedules::ShowTaxOptions() {
+    for (size_t i = 0; i < optTax.size(); ++i) {
+        optTax[i]->setChecked(board.optTax.buttons[i].isOn);
+        optTax[i]->setEnabled(board.optTax.buttons[i].isEnabled);
+    }
+}
+
+void frmPrintSchedules::ReadTaxOptions() {
+    for (size_t i = 0; i < optTax.size(); ++i)
+        board.optTax.buttons[i].isOn = optTax[i]->isChecked();
+}
+
+void frmPrintSchedules::ShowSlip() {
+    const SlipCaptions& slip = board.fraSlip;
+    for (int i = 0; i < addressLines; ++i) {
+        Caption(Indexed(u"lblCustomer"_s, i))->setText(slip.lblCustomer[size_t(i)]);
+        Caption(Indexed(u"txtShipto"_s, i))->setText(slip.txtShipto[size_t(i)]);
+    }
+    Caption(u"lblAcctNo"_s)->setText(slip.lblAcctNo);
+    Caption(u"lblTime"_s)->setText(slip.lblTime);
+    Caption(u"lblTotal"_s)->setText(slip.lblTotal);
+    Caption(u"lblCharge"_s)->setText(slip.lblCharge);
+    Caption(u"lblTaxHeading1"_s)->setText(slip.lblTaxHeading1);
+    Caption(u"lblTaxHeading2"_s)->setText(slip.lblTaxHeading2);
+    Caption(u"lblTax1"_s)->setText(slip.lblTax1);
+    Caption(u"lblTax2"_s)->setText(slip.lblTax2);
+    Caption(u"lblGrandtotal"_s)->setText(slip.lblGrandtotal);
+    Caption(u"lblInvoice"_s)->setText(slip.lblInvoice);
+    fraTax->setVisible(slip.fraTax);
+    fgItems->FitColumns();
+}
+
+void frmPrintSchedules::DTPicker1_Change(QDate date) {
+    board.ChangeDate(date);
+    ShowBoard();
+}
+
+void frmPrintSchedules::lstVehicles_Click() {
+    board.ChooseVehicle(lstVehicles->currentIndex().data().toString());
+    ShowBoard();
+}
+
+void frmPrintSchedules::fgSchedule_Click(int row, int column) {
+    cmdPrint[ToggleSlip]->setEnabled(false);
+    if (row == 0)
+        return;
+    const QString slipNo = board.Cell(row, ScheduleColumn::SlipNo);
+    if (!slipNo.isEmpty()) {
+        board.LoadSlipPanel(slipNo);
+        ShowSlip();
+    }
+    if (ScheduleColumn(column) == ScheduleColumn::DeliveryCharge) {
+        cmdPrint_ClearCharge();
+    } else if (ScheduleColumn(column) == ScheduleColumn::Select && board.ToggleMark(row)) {
+        cmdPrint[ToggleSlip]->setEnabled(true);
+        cmdPrint[EnterToGrid]->setEnabled(true);
+    }
+}
+
+void frmPrintSchedules::fgSchedule_KeyPress(ushort key) {
+    const auto move = board.EditCell(key);
+    if (move == ScheduleBoard::CursorMove::None)
+        return;
+    const int step = move == ScheduleBoard::CursorMove::Right ? 1 : -1;
+    board.fgSchedule.SetCurrent(board.fgSchedule.CurrentRow(),
+                                board.fgSchedule.CurrentColumn() + step);
+}
+
+bool frmPrintSchedules::txtDeliveryCharge_KeyPress(ushort key) {
+    Operator& user = office.machine.user;
+    const QString text = txtDeliveryCharge->text();
+    if (key == u'.' && text.contains(u'.'))
+        user.Beep();
+    const ushort passed = FilterNumericKey(key, text, user);
+    if (text == ZeroAmount())
+        txtDeliveryCharge->clear();
+    return passed != 0;
+}
+
+bool frmPrintSchedules::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == txtDeliveryCharge && event->type() == QEvent::KeyPress) {
+        const auto* press = static_cast<QKeyEvent*>(event);
+        const bool isCommand = press->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+        const bool isEditing = press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter ||
+                               press->key() == Qt::Key_Tab || press->key() == Qt::Key_Backtab ||
+                               press->key() == Qt::Key_Escape || press->key() == Qt::Key_Delete;
+        const QString text = press->text();
+        if (!isCommand && !isEditing && text.size() == 1 &&
+            !txtDeliveryCharge_KeyPress(text[0].unicode()))
+            return true;
+    }
+    return Screen::eventFilter(watched, event);
+}
+
+void frmPrintSchedules::cmdPrint_Click(Button index) {
+    switch (index) {
+    case ReturnToMenu:
+        screens.GoFrom(ScreenName::frmPrintSchedules, ScreenName::frmStartup);
+        break;
+    case EnterToGrid:
+        cmdPrint_EnterToGrid();
+        break;
+    case ClearCharge:
+        cmdPrint_ClearCharge();
+        break;
+    case Print:
+        office.schedulePrinter.Print(ckPrintWorkSchedule->isChecked());
+        ShowSlip();
+        break;
+    case CloseSlip:
+        fraSlip->hide();
+        break;
+    case SelectAll:
+        board.SelectAll();
+        break;
+    case DeselectAll:
+        board.DeselectAll();
+        cmdPrint[SelectAll]->setEnabled(true);
+        break;
+    case ToggleSlip:
+        cmdPrint_ToggleSlip();
+        break;
+    case AddItems:
+        break;
+    }
+}
+
+void frmPrintSchedules::cmdPrint_EnterToGrid() {
+    const auto entry = board.EnterCharge();
+    if (entry == ScheduleBoard::ChargeEntry::NoDelivery ||
+        entry == ScheduleBoard::ChargeEntry::NoAmount) {
+        cmdPrint_ClearCharge();
+    } else if (entry == ScheduleBoard::ChargeEntry::Entered) {
+        ShowCharge();
+        ShowSlip();
+    }
+}
+
+void frmPrintSchedules::cmdPrint_ClearCharge() {
+    board.ClearCharge();
+    ShowCharge();
+    txtDeliveryCharge->setFocus();
+}
+
+void frmPrintSchedules::cmdPrint_ToggleSlip() {
+    fraSlip->setVisible(!fraSlip->isVisible());
+    fraInvoiceNo->show();
+    fraSlip->Heading()->setText(board.PanelCaption());
+}

@@ -1,0 +1,235 @@
+#include "slips/DeliverySlipRoutines.h"
+
+#include "platform/RuntimeFailure.h"
+#include "slips/SlipFrequency.h"
+#include "store/Conversions.h"
+#include "store/TextLines.h"
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString deliveriesFolder = u"/TesselDelivery/Deliveries"_s;
+const QString temporaryHeader = u"/TesselDelivery/Deliveries/TempFile.txt"_s;
+const QString counterFile = u"/NQDeliveryNo.txt"_s;
+
+constexpr int itemColumns = 4;
+
+QString DateLineOf(const QString& fileName) {
+    return u"reading the delivery date in TesselDelivery/Deliveries/"_s + fileName;
+}
+
+/// The number in the counter file, or 0 when it holds none that is good.
+qint32 CounterValue(const QString& text) {
+    return IsNumeric(text) ? ToInt32(text, u"reading NQDeliveryNo.txt"_s) : 0;
+}
+
+} // namespace
+
+const QString& SlipTable::Text(SlipLine line, int entry) const {
+    const auto& texts = lines[size_t(line) - 1];
+    if (entry < 1 || size_t(entry) > texts.size())
+        throw RuntimeFailure(FailureKind::Subscript,
+                             u"The slip table has no entry %1."_s.arg(entry));
+    return texts[size_t(entry) - 1];
+}
+
+void SlipTable::Set(SlipLine line, int entry, const QString& text) {
+    lines[size_t(line) - 1].at(size_t(entry) - 1) = text;
+}
+
+void SlipTable::Grow(int count) {
+    for (auto& texts : lines) {
+        if (texts.size() < size_t(count))
+            texts.resize(size_t(count));
+    }
+}
+
+DeliverySlipRoutines::DeliverySlipRoutines(BasicDiskRoutines& diskRoutines,
+                                           Calendar& deliveryCalendar,
+                                           const LiveSettings& liveSettings,
+                                           const Clock& machineClock, Operator& person)
+    : disk(diskRoutines), calendar(deliveryCalendar), settings(liveSettings), clock(machineClock),
+      user(person) {}
+
+QString DeliverySlipRoutines::HeaderFile(const QString& slipNo) {
+    return deliveriesFolder + u'/' + slipNo + u".txt"_s;
+}
+
+QString DeliverySlipRoutines::ItemFile(const QString& slipNo) {
+    return u"/TesselDelivery/DeliveryItems/"_s + slipNo + u".txt"_s;
+}
+
+void DeliverySlipRoutines::LoadDeliveryNo() {
+    NextSlipNumber = 0;
+    if (disk.FileExists(counterFile)) {
+        disk.OpenForInput(counterFile);
+        NextSlipNumber = CounterValue(TextReader(disk).Text());
+        disk.CloseAllFiles();
+    }
+    if (NextSlipNumber == 0)
+        NextSlipNumber = ToInt32(QString::number(clock.Today().year()) + u"0001"_s);
+    SaveDeliveryNo(NextSlipNumber);
+}
+
+void DeliverySlipRoutines::UpdateDeliveryCounter() {
+    if (NextSlipNumber == std::numeric_limits<qint32>::max())
+        throw RuntimeFailure(FailureKind::Overflow,
+                             u"Advancing the slip number in NQDeliveryNo.txt failed: "
+                             u"2,147,483,647 is the last number."_s);
+    ++NextSlipNumber;
+    SaveDeliveryNo(NextSlipNumber);
+}
+
+void DeliverySlipRoutines::SaveDeliveryNo(qint32 value) {
+    disk.DeleteWithBackup(counterFile);
+    disk.OpenForOutput(counterFile);
+    TextWriter(disk).Record(RecordLine().Number(value));
+    disk.CloseAllFiles();
+}
+
+void DeliverySlipRoutines::LoadSlips(bool processPast) {
+    disk.KillFile(temporaryHeader);
+    const std::vector<QString> names = disk.ListFiles(deliveriesFolder, u"*.txt"_s);
+    if (names.size() >= size_t(std::numeric_limits<qint16>::max()))
+        throw RuntimeFailure(FailureKind::Overflow,
+                             u"Listing the folder TesselDelivery/Deliveries failed: it holds more "
+                             u"than 32,766 slips."_s);
+    SlipCount = qint16(names.size());
+    ReadHeaders(names);
+    if (processPast)
+        ProcessPastSlips(names);
+}
+
+void DeliverySlipRoutines::ReadHeaders(const std::vector<QString>& names) {
+    Table.Grow(SlipCount);
+    for (int entry = 1; entry <= SlipCount; ++entry) {
+        disk.OpenForInput(deliveriesFolder + u'/' + names[size_t(entry) - 1]);
+        TextReader reader(disk);
+        for (int line = 1; line <= slipTableLines; ++line)
+            Table.Set(SlipLine(line), entry, reader.WholeLine());
+        disk.CloseAllFiles();
+    }
+}
+
+void DeliverySlipRoutines::ProcessPastSlips(const std::vector<QString>& names) {
+    const QDate today = clock.Today();
+    for (int entry = 1; entry <= SlipCount; ++entry) {
+        const QString date = Table.Text(SlipLine::Date, entry);
+        if (ToDate(date, DateLineOf(names[size_t(entry) - 1])) < today)
+            ProcessPastSlip(Table.Text(SlipLine::SlipNumber, entry), date,
+                            Table.Text(SlipLine::Recurring, entry),
+                            Table.Text(SlipLine::Frequency, entry));
+    }
+}
+
+void DeliverySlipRoutines::WriteSlipHeader(const SlipHeader& header) {
+    const QString name = HeaderFile(header.table[0].trimmed());
+    disk.KillFile(name);
+    disk.OpenForOutput(name);
+    TextWriter writer(disk);
+    for (const QString& line : header.table)
+        writer.Plain(line);
+    for (const QString& line : header.soldTo)
+        writer.Quoted(line);
+    for (const QString& line : header.deliverTo)
+        writer.Quoted(line);
+}
+
+void DeliverySlipRoutines::WriteSlipItems(const GridModel& grid, const QString& slipNo,
+                                          qint16 count, const QString& total) {
+    const QString number = slipNo.trimmed();
+    disk.KillFile(ItemFile(number));
+    disk.OpenForOutput(ItemFile(number));
+    TextWriter writer(disk);
+    writer.Plain(number);
+    writer.Plain(QString::number(count));
+    for (int row = 1; row <= count; ++row) {
+        for (int column = 0; column < itemColumns; ++column)
+            writer.Plain(grid.Text(row, column));
+    }
+    writer.Quoted(total.isEmpty() ? CurrencyText(Currency()) : total);
+    disk.CloseAllFiles();
+}
+
+void DeliverySlipRoutines::RewriteSlipHeader(const QString& slipNo, bool keep,
+                                             const QString& newDate, const QString& newTime,
+                                             const QString& newFifthLine) {
+    disk.KillFile(temporaryHeader);
+    disk.OpenForInput(HeaderFile(slipNo));
+    TextReader reader(disk);
+    TextWriter writer(disk, disk.OpenForOutputBeside(temporaryHeader));
+    for (int number = 1; number <= slipTableLines; ++number) {
+        const QString old = reader.WholeLine();
+        const auto line = SlipLine(number);
+        if (line == SlipLine::Date)
+            writer.Plain(newDate);
+        else if (line == SlipLine::Time && !keep)
+            writer.Plain(newTime);
+        else if (line == SlipLine::Frequency && !keep)
+            writer.Plain(newFifthLine);
+        else
+            writer.Plain(old);
+    }
+    for (int i = 0; i < slipAddressLines; ++i)
+        writer.Plain(reader.WholeLine());
+    disk.CloseAllFiles();
+    disk.KillFile(HeaderFile(slipNo));
+    disk.RenameDataFile(temporaryHeader, HeaderFile(slipNo));
+    disk.KillFile(temporaryHeader);
+}
+
+bool DeliverySlipRoutines::IsSlotFree(QDate date, const QString& time,
+                                      const QString& vehicle) const {
+    for (int entry = 1; entry <= SlipCount; ++entry) {
+        const QString fileName = Table.Text(SlipLine::SlipNumber, entry) + u".txt"_s;
+        if (ToDate(Table.Text(SlipLine::Date, entry), DateLineOf(fileName)) == date &&
+            Table.Text(SlipLine::Time, entry).trimmed() == time &&
+            Table.Text(SlipLine::Vehicle, entry).trimmed() == vehicle)
+            return true;
+    }
+    return true;
+}
+
+QString DeliverySlipRoutines::NextDeliveryDate(const QString& date, const QString& frequency) {
+    const QDate today = clock.Today();
+    QDate from = ToDate(date, u"the delivery date of a slip"_s);
+    QDate next = NextOccurrence(from, frequency, today);
+    while (next < today) {
+        from = next;
+        next = NextOccurrence(from, frequency, today);
+    }
+    constexpr double lastFrequencyWithoutCorrection = 2;
+    if (settings.ckOnDay == 1 && LeadingNumber(frequency) > lastFrequencyWithoutCorrection)
+        next = AdjustToSameWeekday(from, next);
+    return ShortDateText(calendar.NextAvailableWorkDay(next));
+}
+
+void DeliverySlipRoutines::ProcessPastSlip(const QString& slipNo, const QString& date,
+                                           const QString& recurringText, const QString& frequency) {
+    if (recurringText != "False"_L1) {
+        const Answer answer = user.MsgBox(u"Would you like to DELETE the Recurring Slip?"_s,
+                                          Buttons::YesNo, u"Delete a Recurring Slip"_s);
+        if (answer == Answer::No)
+            MoveToNextDate(slipNo, date, frequency);
+        else
+            DeleteSlip(slipNo, date);
+    } else if (settings.ckDelete == 1) {
+        DeleteSlip(slipNo, date);
+    }
+}
+
+void DeliverySlipRoutines::MoveToNextDate(const QString& slipNo, const QString& date,
+                                          const QString& frequency) {
+    RewriteSlipHeader(slipNo, true, NextDeliveryDate(date, frequency), {}, {});
+    user.MsgBox(u"The Recurring Delivery Slip has been Rescheduled"_s);
+}
+
+void DeliverySlipRoutines::DeleteSlip(const QString& slipNo, const QString& date) {
+    disk.KillFile(HeaderFile(slipNo));
+    disk.KillFile(ItemFile(slipNo));
+    user.MsgBox(u"Delivery Slip "_s + slipNo + u" scheduled for "_s + date +
+                u" has been Deleted"_s);
+}

@@ -1,0 +1,115 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/GridModel.h"
+#include "platform/Operator.h"
+#include "setup/LiveSettings.h"
+#include "store/BasicDiskRoutines.h"
+#include "store/Calendar.h"
+
+#include <QDate>
+#include <QString>
+
+#include <array>
+#include <vector>
+
+/// Header lines of a slip file that the slip table holds, numbered as in the file.
+enum class SlipLine {
+    SlipNumber = 1,
+    Date,
+    Time,
+    Recurring,
+    Frequency,
+    Vehicle,
+    Account,
+    CustomerName,
+    Reference,
+    Attention,
+};
+constexpr int slipTableLines = 10;
+/// Quoted lines behind them: six of the sold-to address, six of the deliver-to address.
+constexpr int slipAddressLines = 12;
+
+/// All slips in the folder, by header line and entry; entries count from 1. It is a picture taken
+/// by LoadSlips, stale until the next one.
+class SlipTable {
+public:
+    const QString& Text(SlipLine line, int entry) const;
+    void Set(SlipLine line, int entry, const QString& text);
+    /// Makes room for entries 1 to `count`; what is there stays.
+    void Grow(int count);
+
+private:
+    std::array<std::vector<QString>, slipTableLines> lines;
+};
+
+/// What a slip's header file holds: the ten table lines and the two addresses (name, street,
+/// apartment, city, state, zip).
+struct SlipHeader {
+    std::array<QString, slipTableLines> table;
+    std::array<QString, 6> soldTo;
+    std::array<QString, 6> deliverTo;
+
+    QString& operator[](SlipLine line) { return table[size_t(line) - 1]; }
+};
+
+/// The scheduled deliveries. One delivery is two small text files named by its slip number; the
+/// folder is the list of them, and a delivery that is done is deleted or moved to its next date.
+class DeliverySlipRoutines {
+public:
+    DeliverySlipRoutines(BasicDiskRoutines& diskRoutines, Calendar& deliveryCalendar,
+                         const LiveSettings& liveSettings, const Clock& machineClock,
+                         Operator& person);
+
+    /// The number to offer for the next slip; NQDeliveryNo.txt holds it.
+    qint32 NextSlipNumber = 0;
+    void LoadDeliveryNo();
+    void UpdateDeliveryCounter();
+    void SaveDeliveryNo(qint32 value);
+
+    SlipTable Table;
+    /// At most 32,766: the count is 16 bits wide and goes one too far while the folder is listed.
+    qint16 SlipCount = 0;
+
+    /// Rebuilds the table from the folder, in name order. With `processPast`, each slip dated
+    /// before today goes through ProcessPastSlip; the table then still shows it as it was.
+    void LoadSlips(bool processPast);
+
+    /// Writes the 22 header lines, replacing the slip file of that number, and leaves it open: the
+    /// item file's writer, which follows, closes it.
+    void WriteSlipHeader(const SlipHeader& header);
+    /// Writes the item file from rows 1 to `count` of a grid, columns 0 to 3: units, description,
+    /// unit price, line total. Closes all files first. An empty total counts as 0.
+    void WriteSlipItems(const GridModel& grid, const QString& slipNo, qint16 count,
+                        const QString& total);
+    /// Changes lines of a slip in place: the date always; with `keep` false also the time and the
+    /// fifth line. All else stays to the byte.
+    void RewriteSlipHeader(const QString& slipNo, bool keep, const QString& newDate,
+                           const QString& newTime, const QString& newFifthLine);
+    /// The answer is True in every case: nothing refuses a second delivery in the same slot.
+    bool IsSlotFree(QDate date, const QString& time, const QString& vehicle) const;
+
+    /// The slip's next date: today or later before the weekday correction and the move to a work
+    /// day, of which the correction can lead before today.
+    QString NextDeliveryDate(const QString& date, const QString& frequency);
+    /// What becomes of a slip whose delivery has passed: a recurring one is deleted or moved on as
+    /// the operator says, a one-time one is deleted if the settings say so. `recurringText` is
+    /// anything but "False" for a recurring slip.
+    void ProcessPastSlip(const QString& slipNo, const QString& date, const QString& recurringText,
+                         const QString& frequency);
+
+    static QString HeaderFile(const QString& slipNo);
+    static QString ItemFile(const QString& slipNo);
+
+private:
+    void ReadHeaders(const std::vector<QString>& names);
+    void ProcessPastSlips(const std::vector<QString>& names);
+    void MoveToNextDate(const QString& slipNo, const QString& date, const QString& frequency);
+    void DeleteSlip(const QString& slipNo, const QString& date);
+
+    BasicDiskRoutines& disk;
+    Calendar& calendar;
+    const LiveSettings& settings;
+    const Clock& clock;
+    Operator& user;
+};

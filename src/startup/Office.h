@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/Operator.h"
+#include "platform/PrinterSurface.h"
+#include "platform/WebBrowser.h"
+#include "products/SalesItemLists.h"
+#include "schedule/DeliverySchedulePrinter.h"
+#include "schedule/PrinterRoutines.h"
+#include "schedule/ScheduleBoard.h"
+#include "setup/LiveSettings.h"
+#include "setup/SettingsStore.h"
+#include "slips/DeliverySlipRoutines.h"
+#include "slips/VehicleFleet.h"
+#include "store/BasicDiskRoutines.h"
+#include "store/Calendar.h"
+#include "store/DeliveryTimes.h"
+
+/// What the machine gives the rules: the date, the person, paper and browser.
+struct Machine {
+    const Clock& clock;
+    Operator& user;
+    PrinterSurface& printer;
+    WebBrowser& browser;
+};
+
+/// All rule modules of one run, wired together on one data folder. Nothing here knows a screen.
+class Office {
+public:
+    Office(const QString& dataFolder, const Machine& theMachine);
+
+    Machine machine;
+    BasicDiskRoutines disk;
+    LiveSettings settings;
+    SettingsStore settingsStore;
+    Calendar calendar;
+    DeliveryTimes deliveryTimes;
+    DeliverySlipRoutines slips;
+    VehicleFleet fleet;
+    SalesItemLists items;
+    ScheduleBoard board;
+    PrinterRoutines printer;
+    DeliverySchedulePrinter schedulePrinter;
+    /// The menu routine clicked last; what comes after selecting a customer depends on it.
+    qint16 MenuChoice = 0;
+};

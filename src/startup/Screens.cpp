@@ -1,0 +1,91 @@
+#include "startup/Screens.h"
+
+#include "schedule/frmPrintSchedules.h"
+#include "setup/frmSplash.h"
+#include "startup/Office.h"
+#include "startup/frmStartup.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+Screens::Screens(Office& theOffice) : office(theOffice) {}
+
+Screens::~Screens() {
+    while (!loaded.empty())
+        loaded.pop_back();
+}
+
+bool Screens::IsBuilt(ScreenName name) {
+    return name == ScreenName::frmSplash || name == ScreenName::frmStartup ||
+           name == ScreenName::frmPrintSchedules;
+}
+
+std::unique_ptr<Screen> Screens::Make(ScreenName name) {
+    switch (name) {
+    case ScreenName::frmSplash:
+        return std::make_unique<frmSplash>(office, *this);
+    case ScreenName::frmStartup:
+        return std::make_unique<frmStartup>(office, *this);
+    case ScreenName::frmPrintSchedules:
+        return std::make_unique<frmPrintSchedules>(office, *this);
+    default:
+        return nullptr;
+    }
+}
+
+Screen* Screens::Find(ScreenName name) const {
+    const auto found = std::find_if(loaded.begin(), loaded.end(),
+                                    [&](const Loaded& entry) { return entry.name == name; });
+    return found == loaded.end() ? nullptr : found->screen.get();
+}
+
+void Screens::Create(ScreenName name) {
+    if (!IsBuilt(name) || Find(name))
+        return;
+    loaded.push_back({name, Make(name)});
+    connect(loaded.back().screen.get(), &Screen::ClosedByUser, this, &Screens::ExitRequested);
+}
+
+void Screens::Show(ScreenName name) {
+    Create(name);
+    Screen* screen = Find(name);
+    if (!screen)
+        return;
+    screen->show();
+    screen->raise();
+    screen->activateWindow();
+    screen->Activate();
+}
+
+void Screens::Hide(ScreenName name) {
+    if (Screen* screen = Find(name))
+        screen->hide();
+}
+
+void Screens::Destroy(ScreenName name) {
+    // Later: the screen asks for it from one of its own reactions.
+    const auto found = std::find_if(loaded.begin(), loaded.end(),
+                                    [&](const Loaded& entry) { return entry.name == name; });
+    if (found == loaded.end())
+        return;
+    found->screen->hide();
+    found->screen.release()->deleteLater();
+    loaded.erase(found);
+}
+
+void Screens::GoFrom(ScreenName from, ScreenName to) {
+    if (!IsBuilt(to)) {
+        TellNotBuilt();
+        return;
+    }
+    Create(to);
+    if (const Screen* left = Find(from))
+        Find(to)->setGeometry(left->geometry());
+    Hide(from);
+    Show(to);
+}
+
+void Screens::TellNotBuilt() {
+    office.machine.user.MsgBox(u"This routine is not part of this version yet."_s);
+}

@@ -1,0 +1,35 @@
+#include "startup/StartUp.h"
+
+#include "startup/DataFolderLayout.h"
+#include "startup/Office.h"
+#include "startup/Screens.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+/// Lets the title screen appear while the sequence runs on; clicks wait until it is done.
+void Repaint(Screens& screens) {
+    screens.Find(ScreenName::frmSplash)->repaint();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+} // namespace
+
+void StartUp(Office& office, Screens& screens) {
+    office.settingsStore.LoadAll();
+    screens.Create(ScreenName::frmSetup);
+    screens.Show(ScreenName::frmSplash);
+    Repaint(screens);
+    CreateFolders(office.disk, office.machine.clock);
+    office.settingsStore.LoadSettings();
+    screens.Create(ScreenName::frmPrintSchedules);
+    office.slips.LoadSlips(true);
+    screens.Create(ScreenName::frmCustomer);
+    Repaint(screens);
+    screens.Create(ScreenName::frmStartup);
+    screens.Create(ScreenName::frmVehicle);
+    office.fleet.Load();
+    office.items.RefreshAll();
+    office.deliveryTimes.BuildTimeLists();
+}

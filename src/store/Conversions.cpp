@@ -1,0 +1,226 @@
+#include "store/Conversions.h"
+
+#include "platform/RegionalFormats.h"
+#include "platform/RuntimeFailure.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int currencyValueDecimals = 4;
+
+QString Located(const QString& where) {
+    return where.isEmpty() ? QString() : u" ("_s + where + u')';
+}
+
+RuntimeFailure Mismatch(QStringView text, const QString& what, const QString& where) {
+    constexpr qsizetype longestShown = 60;
+    const QString shown = text.size() > longestShown ? text.left(longestShown).toString() + u"..."_s
+                                                     : text.toString();
+    return {FailureKind::TypeMismatch,
+            u"The text \"%1\" is not %2%3."_s.arg(shown, what, Located(where))};
+}
+
+RuntimeFailure TooLarge(const QString& number, const QString& where) {
+    return {FailureKind::Overflow,
+            u"The number %1 is outside its range%2."_s.arg(number, Located(where))};
+}
+
+template <typename Whole>
+Whole RoundedTo(double number, const QString& where) {
+    const double rounded = std::nearbyint(number);
+    if (!(rounded >= double(std::numeric_limits<Whole>::min()) &&
+          rounded <= double(std::numeric_limits<Whole>::max())))
+        throw TooLarge(NumberText(number), where);
+    return Whole(rounded);
+}
+
+/// A decimal number as a person reads it: digits, and how many of them follow the point.
+struct Decimal {
+    bool negative = false;
+    QByteArray digits;
+    qsizetype places = 0;
+};
+
+/// From the plain form "-1234.5E3".
+Decimal DecimalOf(const QByteArray& plain) {
+    Decimal decimal;
+    decimal.negative = plain.startsWith('-');
+    const qsizetype exponentMark = plain.indexOf('E');
+    const QByteArray number =
+        plain.mid(decimal.negative ? 1 : 0,
+                  (exponentMark < 0 ? plain.size() : exponentMark) - (decimal.negative ? 1 : 0));
+    const qsizetype point = number.indexOf('.');
+    decimal.digits = number;
+    if (point >= 0) {
+        decimal.places = number.size() - point - 1;
+        decimal.digits.remove(point, 1);
+    }
+    if (exponentMark >= 0)
+        decimal.places -= plain.mid(exponentMark + 1).toInt();
+    return decimal;
+}
+
+enum class Ties { ToEven, AwayFromZero };
+
+/// The absolute value of the lowest currency value; the highest is one less.
+constexpr quint64 largestCount = quint64(1) << 63;
+
+/// The decimal's absolute value as a whole count of 10^-places, or nothing when it exceeds
+/// `largestCount`.
+std::optional<quint64> CountOf(const Decimal& decimal, int places, Ties ties) {
+    QByteArray digits = decimal.digits;
+    const qsizetype surplus = decimal.places - places;
+    QByteArray cut;
+    if (surplus <= 0) {
+        if (digits.size() - surplus > 400)
+            return {};
+        digits += QByteArray(-surplus, '0');
+    } else if (surplus > digits.size()) {
+        return 0;
+    } else {
+        cut = digits.right(surplus);
+        digits.chop(surplus);
+    }
+    quint64 count = 0;
+    for (const char digit : std::as_const(digits)) {
+        if (count > (largestCount - quint64(digit - '0')) / 10)
+            return {};
+        count = count * 10 + quint64(digit - '0');
+    }
+    if (cut.isEmpty() || cut[0] < '5')
+        return count;
+    const bool isTie = cut[0] == '5' && std::all_of(cut.begin() + 1, cut.end(),
+                                                    [](char digit) { return digit == '0'; });
+    if (isTie && ties == Ties::ToEven && count % 2 == 0)
+        return count;
+    return count < largestCount ? std::optional(count + 1) : std::nullopt;
+}
+
+QByteArray PlainNumberOf(QStringView text, const QString& where) {
+    const auto plain = RegionalFormats::Current().PlainNumber(text);
+    if (!plain)
+        throw Mismatch(text, u"a number"_s, where);
+    return *plain;
+}
+
+QString CurrencyTextOf(const Decimal& decimal, const QString& where = {}) {
+    const RegionalFormats& formats = RegionalFormats::Current();
+    const auto count = CountOf(decimal, formats.CurrencyDecimals(), Ties::AwayFromZero);
+    if (!count)
+        throw TooLarge(QString::fromLatin1(decimal.digits), where);
+    return formats.Currency(*count, decimal.negative && *count > 0);
+}
+
+} // namespace
+
+qint16 ToInt16(double number, const QString& where) {
+    return RoundedTo<qint16>(number, where);
+}
+
+qint32 ToInt32(double number, const QString& where) {
+    return RoundedTo<qint32>(number, where);
+}
+
+qint16 ToInt16(QStringView text, const QString& where) {
+    return RoundedTo<qint16>(ToDouble(text, where), where);
+}
+
+qint32 ToInt32(QStringView text, const QString& where) {
+    return RoundedTo<qint32>(ToDouble(text, where), where);
+}
+
+quint8 ToByte(QStringView text, const QString& where) {
+    return RoundedTo<quint8>(ToDouble(text, where), where);
+}
+
+float ToSingle(QStringView text, const QString& where) {
+    const double number = ToDouble(text, where);
+    if (std::abs(number) > double(std::numeric_limits<float>::max()))
+        throw TooLarge(NumberText(number), where);
+    return float(number);
+}
+
+double ToDouble(QStringView text, const QString& where) {
+    const double number = PlainNumberOf(text, where).toDouble();
+    if (!std::isfinite(number))
+        throw TooLarge(text.toString(), where);
+    return number;
+}
+
+Currency ToCurrency(QStringView text, const QString& where) {
+    const Decimal decimal = DecimalOf(PlainNumberOf(text, where));
+    const auto count = CountOf(decimal, currencyValueDecimals, Ties::ToEven);
+    if (!count || (*count == largestCount && !decimal.negative))
+        throw TooLarge(text.toString(), where);
+    return Currency::OfTenThousandths(qint64(decimal.negative ? 0 - *count : *count));
+}
+
+QDate ToDate(QStringView text, const QString& where) {
+    const auto date = RegionalFormats::Current().ParseDate(text);
+    if (!date)
+        throw Mismatch(text, u"a date"_s, where);
+    return *date;
+}
+
+bool IsNumeric(QStringView text) {
+    return RegionalFormats::Current().PlainNumber(text).has_value();
+}
+
+bool IsDate(QStringView text) {
+    return RegionalFormats::Current().ParseDate(text).has_value();
+}
+
+double LeadingNumber(QStringView text) {
+    QByteArray number;
+    bool afterPoint = false;
+    for (const QChar character : text) {
+        if (character == u' ')
+            continue;
+        const bool isPoint = character == u'.' && !afterPoint;
+        const bool isSign = (character == u'-' || character == u'+') && number.isEmpty();
+        if (!isPoint && !isSign && (character < u'0' || character > u'9'))
+            break;
+        afterPoint = afterPoint || isPoint;
+        number += char(character.unicode());
+    }
+    return number.toDouble();
+}
+
+QString CurrencyText(Currency amount) {
+    const qint64 count = amount.TenThousandths();
+    Decimal decimal;
+    decimal.negative = count < 0;
+    decimal.digits = QByteArray::number(count < 0 ? quint64(0) - quint64(count) : quint64(count));
+    decimal.places = currencyValueDecimals;
+    return CurrencyTextOf(decimal);
+}
+
+QString CurrencyText(double amount) {
+    if (!std::isfinite(amount))
+        throw TooLarge(QString::number(amount), {});
+    constexpr int placesOfFifteenDigits = 14;
+    return CurrencyTextOf(DecimalOf(QByteArray::number(amount, 'e', placesOfFifteenDigits)
+                                        .replace('e', 'E')
+                                        .replace("E+", "E")));
+}
+
+QString CurrencyText(QStringView text, const QString& where) {
+    return CurrencyTextOf(DecimalOf(PlainNumberOf(text, where)), where);
+}
+
+QString ShortDateText(QDate date) {
+    return RegionalFormats::Current().ShortDate(date);
+}
+
+QString NumberText(double number) {
+    constexpr int significantDigits = 15;
+    // Adding zero takes the sign off a negative zero.
+    QString text = QString::number(number + 0.0, 'g', significantDigits).toUpper();
+    return text.replace(u'.', RegionalFormats::Current().DecimalMark());
+}

@@ -1,0 +1,109 @@
+#pragma once
+
+#include "platform/CodePage.h"
+#include "store/BasicDiskRoutines.h"
+#include "store/Currency.h"
+
+#include <QDate>
+#include <QString>
+#include <QtEndian>
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <type_traits>
+
+/// The fields of a fixed record. A record is a struct of these and nothing else, so that it is its
+/// own bytes on disk: all have alignment 1, and a value-initialised one is all zero bytes.
+
+/// Text in the files' code page, blank-filled on the right, cut at the width on assignment.
+template <size_t Width>
+struct FixedText {
+    std::array<char, Width> bytes;
+
+    FixedText& operator=(const QString& text) {
+        const QByteArray encoded = ToCodePage(text).left(qsizetype(Width));
+        bytes.fill(' ');
+        std::copy(encoded.begin(), encoded.end(), bytes.begin());
+        return *this;
+    }
+
+    /// All characters, blanks and NUL characters included.
+    QString Whole() const { return FromCodePage({bytes.data(), qsizetype(Width)}); }
+    /// As readers take it: without leading and trailing blanks, and nothing of a field that was
+    /// never assigned.
+    QString Trimmed() const {
+        QString text = Whole();
+        text.truncate(text.indexOf(QChar::Null) < 0 ? text.size() : text.indexOf(QChar::Null));
+        return text.trimmed();
+    }
+};
+
+template <typename Integer>
+struct LittleInteger {
+    std::array<char, sizeof(Integer)> bytes;
+
+    LittleInteger& operator=(Integer value) {
+        qToLittleEndian(value, bytes.data());
+        return *this;
+    }
+    Integer Value() const { return qFromLittleEndian<Integer>(bytes.data()); }
+};
+
+using LittleInt16 = LittleInteger<qint16>;
+using LittleInt32 = LittleInteger<qint32>;
+
+/// A Boolean takes 16 bits; true is -1.
+struct LittleBoolean {
+    LittleInt16 flag;
+
+    LittleBoolean& operator=(bool value) {
+        flag = qint16(value ? -1 : 0);
+        return *this;
+    }
+    bool Value() const { return flag.Value() != 0; }
+};
+
+struct LittleCurrency {
+    LittleInteger<qint64> count;
+
+    LittleCurrency& operator=(Currency amount) {
+        count = amount.TenThousandths();
+        return *this;
+    }
+    Currency Value() const { return Currency::OfTenThousandths(count.Value()); }
+};
+
+/// A double that counts days since 30 December 1899; the dates of this program carry no time.
+struct LittleDate {
+    LittleInteger<quint64> days;
+
+    static QDate Start() { return {1899, 12, 30}; }
+
+    LittleDate& operator=(QDate date) {
+        days = std::bit_cast<quint64>(double(Start().daysTo(date)));
+        return *this;
+    }
+    /// No valid date when a damaged record holds a count outside the years 100 to 9999.
+    QDate Value() const {
+        constexpr double firstDay = -657434;
+        constexpr double endOfDays = 2958466;
+        const auto count = std::bit_cast<double>(days.Value());
+        return count >= firstDay && count < endOfDays ? Start().addDays(qint64(count)) : QDate();
+    }
+};
+
+template <typename Record>
+Record ReadRecord(BasicDiskRoutines& disk, qint16 fileNumber, qint32 recordNumber) {
+    static_assert(std::is_trivially_copyable_v<Record> && alignof(Record) == 1);
+    Record record{};
+    disk.ReadRecord(fileNumber, recordNumber, &record, sizeof(Record));
+    return record;
+}
+
+template <typename Record>
+void WriteRecord(BasicDiskRoutines& disk, qint16 fileNumber, qint32 recordNumber,
+                 const Record& record) {
+    static_assert(std::is_trivially_copyable_v<Record> && alignof(Record) == 1);
+    disk.WriteRecord(fileNumber, recordNumber, &record, sizeof(Record));
+}

@@ -1,0 +1,229 @@
+#include "store/TextLines.h"
+
+#include "platform/CodePage.h"
+#include "platform/RuntimeFailure.h"
+
+#include <cmath>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QByteArrayView lineEnd = "\r\n";
+
+RuntimeFailure PastEnd(const BasicDiskRoutines::Input& input) {
+    return {
+        FailureKind::ReadPastEnd,
+        u"Reading %1 failed: the file ends before all of its values were read."_s.arg(input.name)};
+}
+
+bool IsLineEnd(const BasicDiskRoutines::Input& input, qsizetype position) {
+    return input.content.size() - position >= lineEnd.size() && input.content[position] == '\r' &&
+           input.content[position + 1] == '\n';
+}
+
+void SkipBlanks(BasicDiskRoutines::Input& input) {
+    while (input.position < input.content.size() && input.content[input.position] == ' ')
+        ++input.position;
+}
+
+/// The separator behind a field: a comma, a line end, or nothing.
+void SkipSeparator(BasicDiskRoutines::Input& input) {
+    if (IsLineEnd(input, input.position))
+        input.position += lineEnd.size();
+    else if (input.position < input.content.size() && input.content[input.position] == ',')
+        ++input.position;
+}
+
+QByteArray QuotedField(BasicDiskRoutines::Input& input) {
+    ++input.position;
+    qsizetype end = input.content.indexOf('"', input.position);
+    if (end < 0)
+        end = input.content.size();
+    const QByteArray field = input.content.mid(input.position, end - input.position);
+    input.position = std::min(end + 1, input.content.size());
+    SkipBlanks(input);
+    SkipSeparator(input);
+    return field;
+}
+
+QByteArray BareField(BasicDiskRoutines::Input& input) {
+    qsizetype end = input.position;
+    while (end < input.content.size() && input.content[end] != ',' && !IsLineEnd(input, end))
+        ++end;
+    const QByteArray field = input.content.mid(input.position, end - input.position);
+    input.position = end;
+    SkipSeparator(input);
+    return field;
+}
+
+QString DateField(QDate date) {
+    return u'#' + date.toString(u"yyyy-MM-dd") + u'#';
+}
+
+} // namespace
+
+TextReader::TextReader(BasicDiskRoutines& disk) : routines(disk), number(disk.DiskFile) {}
+
+bool TextReader::AtEnd() const {
+    const auto& input = routines.InputOn(number);
+    return input.position >= input.content.size();
+}
+
+QString TextReader::WholeLine() {
+    auto& input = routines.InputOn(number);
+    if (AtEnd())
+        throw PastEnd(input);
+    qsizetype end = input.content.indexOf(lineEnd, input.position);
+    const qsizetype next = end < 0 ? input.content.size() : end + lineEnd.size();
+    if (end < 0)
+        end = input.content.size();
+    const QByteArrayView line =
+        QByteArrayView(input.content).sliced(input.position, end - input.position);
+    input.position = next;
+    return FromCodePage(line);
+}
+
+void TextReader::SkipLines(int count) {
+    for (int i = 0; i < count; ++i)
+        WholeLine();
+}
+
+QByteArray TextReader::NextField() {
+    auto& input = routines.InputOn(number);
+    if (AtEnd())
+        throw PastEnd(input);
+    SkipBlanks(input);
+    const bool isQuoted =
+        input.position < input.content.size() && input.content[input.position] == '"';
+    return isQuoted ? QuotedField(input) : BareField(input);
+}
+
+QString TextReader::Text() {
+    return FromCodePage(NextField());
+}
+
+QString TextReader::Quoted(const QByteArray& field) const {
+    return u"Reading %1 failed: \"%2\" is not "_s.arg(routines.InputOn(number).name,
+                                                      FromCodePage(field.left(60)));
+}
+
+double TextReader::Number(const QByteArray& field) const {
+    bool isNumber = false;
+    const double value = field.trimmed().toDouble(&isNumber);
+    if (!isNumber || std::isnan(value))
+        throw RuntimeFailure(FailureKind::TypeMismatch, Quoted(field) + u"a number."_s);
+    return value;
+}
+
+RuntimeFailure TextReader::OutOfRange(const QByteArray& field, const char* typeName) const {
+    return {FailureKind::Overflow,
+            Quoted(field) + u"in the range of "_s + QString::fromLatin1(typeName) + u'.'};
+}
+
+template <typename Whole>
+Whole TextReader::WholeNumber(const char* typeName) {
+    const QByteArray field = NextField();
+    const double value = std::nearbyint(Number(field));
+    if (value < double(std::numeric_limits<Whole>::min()) ||
+        value > double(std::numeric_limits<Whole>::max()))
+        throw OutOfRange(field, typeName);
+    return Whole(value);
+}
+
+qint16 TextReader::Int16() {
+    return WholeNumber<qint16>("a 16-bit integer");
+}
+
+qint32 TextReader::Int32() {
+    return WholeNumber<qint32>("a 32-bit integer");
+}
+
+quint8 TextReader::Byte() {
+    return WholeNumber<quint8>("a byte");
+}
+
+float TextReader::Single() {
+    const QByteArray field = NextField();
+    const double value = Number(field);
+    if (std::abs(value) > double(std::numeric_limits<float>::max()))
+        throw OutOfRange(field, "a single-precision number");
+    return float(value);
+}
+
+bool TextReader::Boolean() {
+    const QByteArray field = NextField();
+    const QByteArray word = field.trimmed();
+    if (word == "#TRUE#")
+        return true;
+    if (word == "#FALSE#")
+        return false;
+    throw RuntimeFailure(FailureKind::TypeMismatch, Quoted(field) + u"#TRUE# or #FALSE#."_s);
+}
+
+QDate TextReader::Date() {
+    const QByteArray field = NextField();
+    const QString text = FromCodePage(field.trimmed());
+    if (text.startsWith(u'#') && text.endsWith(u'#') && text.size() > 2) {
+        const QString value = text.mid(1, text.size() - 2);
+        const QDate date = QDate::fromString(value.section(u' ', 0, 0), u"yyyy-MM-dd");
+        const QString time = value.section(u' ', 1);
+        if (date.isValid() && (time.isEmpty() || QTime::fromString(time, u"hh:mm:ss").isValid()))
+            return date;
+    }
+    throw RuntimeFailure(FailureKind::TypeMismatch, Quoted(field) + u"a date."_s);
+}
+
+RecordLine& RecordLine::Add(const QByteArray& field) {
+    if (!bytes.isEmpty())
+        bytes += ',';
+    bytes += field;
+    return *this;
+}
+
+RecordLine& RecordLine::Text(const QString& text) {
+    return Add('"' + ToCodePage(text) + '"');
+}
+
+RecordLine& RecordLine::Number(qint64 value) {
+    return Add(QByteArray::number(value));
+}
+
+RecordLine& RecordLine::Single(float value) {
+    constexpr int significantDigits = 7;
+    return Add(QByteArray::number(double(value), 'g', significantDigits));
+}
+
+RecordLine& RecordLine::Boolean(bool value) {
+    return Add(value ? "#TRUE#" : "#FALSE#");
+}
+
+RecordLine& RecordLine::Date(QDate date) {
+    return Add(DateField(date).toLatin1());
+}
+
+TextWriter::TextWriter(BasicDiskRoutines& disk) : TextWriter(disk, disk.DiskFile) {}
+
+TextWriter::TextWriter(BasicDiskRoutines& disk, qint16 fileNumber)
+    : routines(disk), number(fileNumber) {}
+
+void TextWriter::Line(const QByteArray& bytes) {
+    routines.Append(number, bytes + lineEnd.toByteArray());
+}
+
+void TextWriter::Plain(const QString& text) {
+    Line(ToCodePage(text));
+}
+
+void TextWriter::Quoted(const QString& text) {
+    Line('"' + ToCodePage(text) + '"');
+}
+
+void TextWriter::Record(const RecordLine& line) {
+    Line(line.Bytes());
+}
+
+QString BooleanWord(bool value) {
+    return value ? u"True"_s : u"False"_s;
+}

@@ -1,0 +1,46 @@
+#include "platform/GridModel.h"
+
+#include "platform/RuntimeFailure.h"
+#include "support/OfficeTest.h"
+
+using namespace Qt::StringLiterals;
+
+TEST(GridModel, ClearGridBlanksAndCutsToTwoRows) {
+    GridModel grid({u"A"_s, u"B"_s});
+    grid.SetRows(5);
+    grid.SetText(1, 1, u"x"_s);
+    grid.ClearGrid();
+    EXPECT_EQ(grid.Rows(), 2);
+    EXPECT_EQ(grid.Text(1, 1), QString());
+    EXPECT_EQ(grid.Text(0, 1), u"B"_s);
+}
+
+TEST(GridModel, CurrentRowMovesUpWhenItsRowGoes) {
+    GridModel grid({u"A"_s});
+    grid.SetRows(4);
+    grid.SetCurrent(3, 0);
+    grid.RemoveRow(2);
+    EXPECT_EQ(grid.CurrentRow(), 2);
+    grid.SetRows(1);
+    EXPECT_EQ(grid.CurrentRow(), 0);
+}
+
+TEST(GridModel, CellOutsideTheGridIsASubscriptFailure) {
+    GridModel grid({u"A"_s});
+    EXPECT_EQ(FailureOf([&] { (void)grid.Text(1, 0); }).Kind(), FailureKind::Subscript);
+    EXPECT_EQ(FailureOf([&] { grid.SetText(0, 1, {}); }).Kind(), FailureKind::Subscript);
+}
+
+TEST(GridModel, EqualRowsKeepTheirOrderInASort) {
+    GridModel grid({u"Key"_s, u"Name"_s});
+    grid.SetRows(4);
+    const char* rows[][2] = {{"b", "1"}, {"a", "2"}, {"b", "3"}};
+    for (int row = 1; row <= 3; ++row) {
+        grid.SetText(row, 0, QString::fromLatin1(rows[row - 1][0]));
+        grid.SetText(row, 1, QString::fromLatin1(rows[row - 1][1]));
+    }
+    grid.Sort(0, [](const QString& one, const QString& other) { return one < other; });
+    EXPECT_EQ(grid.Text(1, 1), u"2"_s);
+    EXPECT_EQ(grid.Text(2, 1), u"1"_s);
+    EXPECT_EQ(grid.Text(3, 1), u"3"_s);
+}

@@ -1,0 +1,483 @@
+#include "platform/PagePrinter.h"
+
+#include "PrintedPages.h"
+#include "support/OfficeTest.h"
+
+#include <QColor>
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double nearby = 0.02; // inches
+
+/// A machine without a printer, where the user's documents are in "Papers".
+class PagePrinterTest : public testing::Test {
+protected:
+    PagePrinterTest() {
+        qputenv("CUPS_SERVER", "/nonexistent/cups.sock");
+        qputenv("HOME", folder.Path().toUtf8());
+        qputenv("XDG_CONFIG_HOME", folder.PathOf(u"config"_s).toUtf8());
+        folder.Write(u"config/user-dirs.dirs"_s,
+                     "XDG_DOCUMENTS_DIR=\"" + folder.PathOf(u"Papers"_s).toUtf8() + "\"\n");
+    }
+
+    QString PathOfDocument(const QString& name) const {
+        return folder.PathOf(u"Papers/Tessel Delivery/"_s + name);
+    }
+
+    QStringList Documents() const {
+        QStringList names = folder.Everything().filter(u"Papers/Tessel Delivery/"_s);
+        names.removeAll(u"Papers/Tessel Delivery/"_s);
+        for (QString& name : names)
+            name = name.section(u'/', -1);
+        return names;
+    }
+
+    /// Ends the job and reads its pages back.
+    PrintedPages Printed() {
+        printer.EndJob();
+        EXPECT_EQ(opened.size(), 1);
+        return PrintedPages(opened.value(0));
+    }
+
+    void PrintOnePage() {
+        printer.PrintLine(u"Page"_s);
+        printer.EndJob();
+    }
+
+    /// The sentence of the printer failure that ending the job ends in.
+    QString FailureOfEndJob() {
+        const RuntimeFailure failure = FailureOf([this] { printer.EndJob(); });
+        EXPECT_EQ(failure.Kind(), FailureKind::PrinterFailure);
+        return failure.Sentence();
+    }
+
+    TestFolder folder;
+    QStringList opened;
+    PagePrinter printer{[this](const QString& path) { opened += path; }};
+};
+
+} // namespace
+
+TEST_F(PagePrinterTest, TextStandsWithItsUpperLeftCornerAtThePen) {
+    printer.FontName = u"DejaVu Sans"_s;
+    printer.CurrentX = 1440;
+    printer.CurrentY = 2880;
+    printer.Print(u"Upper"_s);
+    printer.CurrentX = 7200;
+    printer.CurrentY = 14400;
+    printer.Print(u"Lower"_s);
+    const PrintedPages pages = Printed();
+    EXPECT_EQ(pages.Count(), 1);
+    EXPECT_NEAR(pages.PlaceOf(u"Upper"_s).left(), 1.0, nearby);
+    EXPECT_NEAR(pages.PlaceOf(u"Upper"_s).top(), 2.0, nearby);
+    EXPECT_NEAR(pages.PlaceOf(u"Lower"_s).left(), 5.0, nearby);
+    EXPECT_NEAR(pages.PlaceOf(u"Lower"_s).top(), 10.0, nearby);
+}
+
+TEST_F(PagePrinterTest, NewPageGoesOnInTheUpperLeftCornerOfTheNextPage) {
+    printer.FontName = u"DejaVu Sans"_s;
+    EXPECT_EQ(printer.PageNumber(), 1);
+    printer.CurrentX = 1440;
+    printer.CurrentY = 1440;
+    printer.Print(u"First"_s);
+    printer.NewPage();
+    EXPECT_EQ(printer.PageNumber(), 2);
+    printer.Print(u"Second"_s);
+    printer.NewPage();
+    EXPECT_EQ(printer.PageNumber(), 3);
+    printer.CurrentX = 4320;
+    printer.CurrentY = 5760;
+    printer.Print(u"Third"_s);
+    const PrintedPages pages = Printed();
+    EXPECT_EQ(pages.Count(), 3);
+    EXPECT_EQ(pages.Words(1), QStringList{u"First"_s});
+    EXPECT_EQ(pages.Words(2), QStringList{u"Second"_s});
+    EXPECT_EQ(pages.Words(3), QStringList{u"Third"_s});
+    EXPECT_NEAR(pages.PlaceOf(u"First"_s, 1).left(), 1.0, nearby);
+    EXPECT_NEAR(pages.PlaceOf(u"First"_s, 1).top(), 1.0, nearby);
+    EXPECT_NEAR(pages.PlaceOf(u"Second"_s, 2).left(), 0.0, nearby);
+    EXPECT_NEAR(pages.PlaceOf(u"Second"_s, 2).top(), 0.0, nearby);
+    EXPECT_NEAR(pages.PlaceOf(u"Third"_s, 3).left(), 3.0, nearby);
+    EXPECT_NEAR(pages.PlaceOf(u"Third"_s, 3).top(), 4.0, nearby);
+}
+
+TEST_F(PagePrinterTest, PortraitIsLetterPaperUpright) {
+    printer.SetPage(Orientation::Portrait, true);
+    EXPECT_EQ(printer.PageWidth(), 12240);
+    EXPECT_EQ(printer.PageHeight(), 15840);
+    printer.Print(u"Page"_s);
+    EXPECT_EQ(Printed().Property(u"Page size"_s), u"612 x 792 pts (letter)"_s);
+}
+
+TEST_F(PagePrinterTest, LandscapeIsLetterPaperOnItsSide) {
+    printer.FontName = u"DejaVu Sans"_s;
+    printer.SetPage(Orientation::Landscape, true);
+    EXPECT_EQ(printer.PageWidth(), 15840);
+    EXPECT_EQ(printer.PageHeight(), 12240);
+    printer.CurrentX = 14400;
+    printer.CurrentY = 11520;
+    printer.Print(u"Corner"_s);
+    const PrintedPages pages = Printed();
+    EXPECT_EQ(pages.Property(u"Page size"_s), u"792 x 612 pts (letter)"_s);
+    EXPECT_NEAR(pages.PlaceOf(u"Corner"_s).left(), 10.0, nearby);
+    EXPECT_NEAR(pages.PlaceOf(u"Corner"_s).top(), 8.0, nearby);
+}
+
+TEST_F(PagePrinterTest, SetPageLeavesAJobThatWasBegunAsItIs) {
+    printer.SetPage(Orientation::Landscape, true);
+    printer.Print(u"One"_s);
+    printer.SetPage(Orientation::Portrait, true);
+    EXPECT_EQ(printer.PageWidth(), 15840);
+    printer.Print(u"Two"_s);
+    const PrintedPages pages = Printed();
+    EXPECT_EQ(pages.Count(), 1);
+    EXPECT_EQ(pages.Property(u"Page size"_s), u"792 x 612 pts (letter)"_s);
+}
+
+TEST_F(PagePrinterTest, PrintingGoesOnBehindThePrintedText) {
+    printer.FontName = u"DejaVu Sans"_s;
+    printer.CurrentX = 1440;
+    printer.Print(u"Before"_s);
+    const double width = printer.TextWidth(u"Before"_s) / 1440;
+    EXPECT_DOUBLE_EQ(printer.CurrentX / 1440, 1.0 + width);
+    printer.CurrentX += 1440;
+    printer.Print(u"Behind"_s);
+    const PrintedPages pages = Printed();
+    EXPECT_NEAR(pages.PlaceOf(u"Before"_s).width(), width, nearby);
+    EXPECT_NEAR(pages.PlaceOf(u"Behind"_s).left(), pages.PlaceOf(u"Before"_s).right() + 1.0,
+                nearby);
+}
+
+TEST_F(PagePrinterTest, RightAlignedTextEndsWhereAsked) {
+    printer.PrintEndingAt(11520, u"$1,250.00"_s);
+    EXPECT_NEAR(Printed().PlaceOf(u"$1,250.00"_s).right(), 8.0, nearby);
+}
+
+TEST_F(PagePrinterTest, CentredTextStandsInTheMiddleOfThePage) {
+    printer.PrintCentred(u"TITLE"_s);
+    EXPECT_NEAR(Printed().PlaceOf(u"TITLE"_s).center().x(), 4.25, nearby);
+}
+
+TEST_F(PagePrinterTest, LinesFollowEachOtherATextHeightApart) {
+    printer.FontName = u"DejaVu Sans"_s;
+    printer.CurrentY = 1440;
+    printer.PrintLine(u"One"_s);
+    const double height = printer.TextHeight(u"One"_s) / 1440;
+    printer.PrintLine();
+    printer.PrintLine(u"Three"_s);
+    const PrintedPages pages = Printed();
+    EXPECT_NEAR(pages.PlaceOf(u"Three"_s).top(), 1.0 + 2 * height, nearby);
+}
+
+TEST_F(PagePrinterTest, FontSizeIsInPoints) {
+    printer.FontName = u"DejaVu Sans"_s;
+    printer.FontSize = 10;
+    // Ascent 1901 and descent 483 of the 2048 units that this font has to its size.
+    EXPECT_NEAR(printer.TextHeight(u"H"_s), 200 * 2384.0 / 2048, 1.0);
+    printer.FontSize = 72;
+    EXPECT_NEAR(printer.TextHeight(u"H"_s), 1440 * 2384.0 / 2048, 1.0);
+    printer.CurrentX = 1440;
+    printer.CurrentY = 1440;
+    printer.Print(u"H"_s);
+    // A capital letter of this font is 1493 units high.
+    const QRectF ink = InkWithin(Printed().Picture(), {0, 0, 8, 8});
+    EXPECT_NEAR(ink.height(), 1493.0 / 2048, nearby);
+    EXPECT_NEAR(ink.bottom(), 1.0 + 1901.0 / 2048, nearby);
+}
+
+TEST_F(PagePrinterTest, TheFontAskedForIsUsed) {
+    printer.FontName = u"DejaVu Sans Mono"_s;
+    printer.Print(u"Page"_s);
+    EXPECT_EQ(Printed().Fonts(), QStringList{u"DejaVuSansMono"_s});
+}
+
+TEST_F(PagePrinterTest, BoldIsTheBoldFontAndEndsWhenTurnedOff) {
+    printer.FontName = u"DejaVu Sans"_s;
+    printer.FontBold = true;
+    const double boldWidth = printer.TextWidth(u"Heading"_s);
+    printer.PrintLine(u"Heading"_s);
+    printer.FontBold = false;
+    EXPECT_LT(printer.TextWidth(u"Heading"_s), boldWidth);
+    printer.PrintLine(u"Body"_s);
+    QStringList fonts = Printed().Fonts();
+    fonts.sort();
+    EXPECT_EQ(fonts, (QStringList{u"DejaVuSans"_s, u"DejaVuSans-Bold"_s}));
+}
+
+TEST_F(PagePrinterTest, UnderlineIsDrawnBelowTheWholeText) {
+    printer.FontName = u"DejaVu Sans"_s;
+    printer.FontSize = 36;
+    printer.CurrentX = 1440;
+    printer.CurrentY = 1440;
+    printer.FontUnderline = true;
+    const double width = printer.TextWidth(u"HHH"_s) / 1440;
+    printer.PrintLine(u"HHH"_s);
+    printer.FontUnderline = false;
+    printer.CurrentX = 1440;
+    printer.CurrentY = 4320;
+    printer.PrintLine(u"HHH"_s);
+    const QImage picture = Printed().Picture();
+    // The letters end at the baseline, 0.464 inch below the pen.
+    const QRectF below = InkWithin(picture, {0, 1.48, 8, 0.5});
+    EXPECT_NEAR(below.left(), 1.0, nearby);
+    EXPECT_NEAR(below.width(), width, nearby);
+    EXPECT_TRUE(InkWithin(picture, {0, 3.48, 8, 0.5}).isEmpty());
+}
+
+TEST_F(PagePrinterTest, AnUnknownFontFallsBackOnOneThatReads) {
+    printer.FontName = u"Ariel"_s;
+    printer.FontSize = 15;
+    printer.PrintLine(u"SCHEDULED DELIVERIES"_s);
+    const PrintedPages pages = Printed();
+    EXPECT_EQ(pages.Words(1), (QStringList{u"SCHEDULED"_s, u"DELIVERIES"_s}));
+    EXPECT_EQ(pages.Fonts().size(), 1);
+}
+
+TEST_F(PagePrinterTest, ColorsHoldRedInTheLowestByte) {
+    printer.FillBox(1440, 1440, 2880, 2880, 0x0000ff);
+    printer.FillBox(2880, 1440, 4320, 2880, 0x00ff00);
+    printer.FillBox(4320, 1440, 5760, 2880, 0xff0000);
+    printer.FillBox(5760, 1440, 7200, 2880, 0x804020);
+    const QImage picture = Printed().Picture();
+    EXPECT_EQ(ColorAt(picture, 1.5, 1.5).name(), u"#ff0000"_s);
+    EXPECT_EQ(ColorAt(picture, 2.5, 1.5).name(), u"#00ff00"_s);
+    EXPECT_EQ(ColorAt(picture, 3.5, 1.5).name(), u"#0000ff"_s);
+    EXPECT_EQ(ColorAt(picture, 4.5, 1.5).name(), u"#204080"_s);
+}
+
+TEST_F(PagePrinterTest, WithoutColorEverythingIsGreyAsDarkAsTheColor) {
+    printer.SetPage(Orientation::Portrait, false);
+    printer.FillBox(1440, 1440, 2880, 2880, 0x0000ff);
+    printer.FillBox(2880, 1440, 4320, 2880, 0x00ff00);
+    printer.FillBox(4320, 1440, 5760, 2880, 0x000000);
+    printer.FillBox(5760, 1440, 7200, 2880, 0xffffff);
+    const QImage picture = Printed().Picture();
+    EXPECT_EQ(ColorAt(picture, 1.5, 1.5).name(), u"#575757"_s);
+    EXPECT_EQ(ColorAt(picture, 2.5, 1.5).name(), u"#7f7f7f"_s);
+    EXPECT_EQ(ColorAt(picture, 3.5, 1.5).name(), u"#000000"_s);
+    EXPECT_EQ(ColorAt(picture, 4.5, 1.5).name(), u"#ffffff"_s);
+}
+
+TEST_F(PagePrinterTest, TextIsPrintedInTheForeColor) {
+    printer.FontName = u"DejaVu Sans"_s;
+    printer.FontSize = 72;
+    printer.FontBold = true;
+    printer.CurrentX = 1440;
+    printer.ForeColor = 0xff0000;
+    printer.PrintLine(u"I"_s);
+    printer.CurrentX = 1440;
+    printer.ForeColor = 0x0000ff;
+    printer.PrintLine(u"I"_s);
+    const QImage picture = Printed().Picture();
+    // The stem of the letter, half its width right of the pen and half a capital's height down.
+    EXPECT_EQ(ColorAt(picture, 1.186, 0.6).name(), u"#0000ff"_s);
+    EXPECT_EQ(ColorAt(picture, 1.186, 1.764).name(), u"#ff0000"_s);
+}
+
+TEST_F(PagePrinterTest, ALineIsInItsOwnColorAndAsThickAsDrawWidth) {
+    printer.ForeColor = 0x0000ff;
+    printer.DrawWidth = 30;
+    printer.Line(1440, 2880, 5760, 2880, 0xff0000);
+    printer.DrawWidth = 60;
+    printer.Line(7200, 1440, 7200, 5760, 0);
+    const QImage picture = Printed().Picture();
+    EXPECT_EQ(ColorAt(picture, 2.0, 2.0).name(), u"#0000ff"_s);
+    const QRectF lying = InkWithin(picture, {0, 0, 4.5, 8});
+    EXPECT_NEAR(lying.left(), 1.0, nearby);
+    EXPECT_NEAR(lying.right(), 4.0, nearby);
+    EXPECT_NEAR(lying.center().y(), 2.0, nearby);
+    EXPECT_NEAR(lying.height(), 0.1, 0.01);
+    const QRectF standing = InkWithin(picture, {4.5, 0, 3.5, 8});
+    EXPECT_NEAR(standing.top(), 1.0, nearby);
+    EXPECT_NEAR(standing.bottom(), 4.0, nearby);
+    EXPECT_NEAR(standing.center().x(), 5.0, nearby);
+    EXPECT_NEAR(standing.width(), 0.2, 0.01);
+}
+
+TEST_F(PagePrinterTest, ABoxIsDrawnRoundItsInsideFromAnyTwoCorners) {
+    printer.DrawWidth = 15;
+    printer.Box(1440, 1440, 4320, 2880, 0x0000ff);
+    printer.Box(4320, 7200, 1440, 5760, 0x0000ff);
+    const QImage picture = Printed().Picture();
+    for (const double top : {1.0, 4.0}) {
+        EXPECT_EQ(ColorAt(picture, 2.0, top).name(), u"#ff0000"_s);
+        EXPECT_EQ(ColorAt(picture, 2.0, top + 1).name(), u"#ff0000"_s);
+        EXPECT_EQ(ColorAt(picture, 1.0, top + 0.5).name(), u"#ff0000"_s);
+        EXPECT_EQ(ColorAt(picture, 3.0, top + 0.5).name(), u"#ff0000"_s);
+        EXPECT_EQ(ColorAt(picture, 2.0, top + 0.5).name(), u"#ffffff"_s);
+    }
+}
+
+TEST_F(PagePrinterTest, AFilledBoxReachesItsCornersFromAnyTwo) {
+    printer.FillBox(4320, 2880, 1440, 1440, 0);
+    const QRectF ink = InkWithin(Printed().Picture(), {0, 0, 8.5, 11});
+    EXPECT_NEAR(ink.left(), 1.0, nearby);
+    EXPECT_NEAR(ink.top(), 1.0, nearby);
+    EXPECT_NEAR(ink.right(), 3.0, nearby);
+    EXPECT_NEAR(ink.bottom(), 2.0, nearby);
+}
+
+TEST_F(PagePrinterTest, TextOutsideOneByteCharactersIsPrinted) {
+    printer.FontName = u"DejaVu Sans"_s;
+    printer.PrintLine(u"Café 12 €"_s);
+    EXPECT_EQ(Printed().Words(1), (QStringList{u"Café"_s, u"12"_s, u"€"_s}));
+}
+
+TEST_F(PagePrinterTest, WithoutAPrinterTheJobBecomesADocumentThatIsOpened) {
+    printer.JobName = u"Delivery schedule 2026-03-09"_s;
+    PrintOnePage();
+    EXPECT_EQ(Documents(), QStringList{u"Delivery schedule 2026-03-09.pdf"_s});
+    EXPECT_EQ(opened, QStringList{PathOfDocument(u"Delivery schedule 2026-03-09.pdf"_s)});
+    EXPECT_EQ(PrintedPages(opened.value(0)).Property(u"Title"_s),
+              u"Delivery schedule 2026-03-09"_s);
+}
+
+TEST_F(PagePrinterTest, AJobWithoutANameIsNamedAfterTheProgram) {
+    PrintOnePage();
+    EXPECT_EQ(Documents(), QStringList{u"Tessel Delivery.pdf"_s});
+}
+
+TEST_F(PagePrinterTest, ATakenNameGetsTheNextNumber) {
+    folder.Write(u"Papers/Tessel Delivery/Invoice 12.pdf"_s, "kept");
+    printer.JobName = u"Invoice 12"_s;
+    PrintOnePage();
+    PrintOnePage();
+    EXPECT_EQ(Documents(),
+              (QStringList{u"Invoice 12 (2).pdf"_s, u"Invoice 12 (3).pdf"_s, u"Invoice 12.pdf"_s}));
+    EXPECT_EQ(folder.Read(u"Papers/Tessel Delivery/Invoice 12.pdf"_s), "kept");
+    EXPECT_EQ(opened, (QStringList{PathOfDocument(u"Invoice 12 (2).pdf"_s),
+                                   PathOfDocument(u"Invoice 12 (3).pdf"_s)}));
+}
+
+TEST_F(PagePrinterTest, ASlashInTheNameIsNoFolder) {
+    printer.JobName = u"Schedule 3/9/2026"_s;
+    PrintOnePage();
+    EXPECT_EQ(Documents(), QStringList{u"Schedule 3-9-2026.pdf"_s});
+}
+
+TEST_F(PagePrinterTest, NothingIsStoredBeforeTheJobEnds) {
+    printer.Print(u"Page"_s);
+    printer.NewPage();
+    EXPECT_FALSE(folder.Has(u"Papers"_s));
+    EXPECT_TRUE(opened.isEmpty());
+}
+
+TEST_F(PagePrinterTest, AnAbandonedJobLeavesNothing) {
+    printer.Print(u"One"_s);
+    printer.NewPage();
+    printer.Print(u"Two"_s);
+    printer.AbandonJob();
+    EXPECT_FALSE(folder.Has(u"Papers"_s));
+    EXPECT_TRUE(opened.isEmpty());
+    EXPECT_EQ(printer.PageNumber(), 1);
+    EXPECT_EQ(printer.CurrentX, 0);
+    EXPECT_EQ(printer.CurrentY, 0);
+}
+
+TEST_F(PagePrinterTest, AJobAfterAnAbandonedOneHasOnlyItsOwnPages) {
+    printer.Print(u"Thrown"_s);
+    printer.NewPage();
+    printer.AbandonJob();
+    printer.Print(u"Kept"_s);
+    const PrintedPages pages = Printed();
+    EXPECT_EQ(pages.Count(), 1);
+    EXPECT_EQ(pages.Words(1), QStringList{u"Kept"_s});
+}
+
+TEST_F(PagePrinterTest, AJobAfterAnEndedOneStartsAfresh) {
+    printer.FontName = u"DejaVu Sans"_s;
+    printer.SetPage(Orientation::Landscape, true);
+    printer.Print(u"One"_s);
+    printer.NewPage();
+    printer.EndJob();
+    EXPECT_EQ(printer.PageNumber(), 1);
+    EXPECT_EQ(printer.CurrentX, 0);
+    EXPECT_EQ(printer.CurrentY, 0);
+    printer.SetPage(Orientation::Portrait, true);
+    printer.FontBold = true;
+    printer.ForeColor = 0x0000ff;
+    printer.Print(u"Two"_s);
+    printer.EndJob();
+    ASSERT_EQ(opened.size(), 2);
+    const PrintedPages pages(opened[1]);
+    EXPECT_EQ(pages.Count(), 1);
+    EXPECT_EQ(pages.Words(1), QStringList{u"Two"_s});
+    EXPECT_EQ(pages.Property(u"Page size"_s), u"612 x 792 pts (letter)"_s);
+    EXPECT_EQ(pages.Fonts(), QStringList{u"DejaVuSans-Bold"_s});
+}
+
+TEST_F(PagePrinterTest, EndingAJobWithNothingOnItPrintsNothing) {
+    printer.SetPage(Orientation::Portrait, true);
+    printer.EndJob();
+    EXPECT_FALSE(folder.Has(u"Papers"_s));
+    EXPECT_TRUE(opened.isEmpty());
+}
+
+TEST_F(PagePrinterTest, MeasuringAloneBeginsNoJob) {
+    EXPECT_GT(printer.TextWidth(u"Page"_s), 0);
+    printer.EndJob();
+    EXPECT_TRUE(opened.isEmpty());
+    EXPECT_GT(printer.TextHeight(u"Page"_s), 0);
+    printer.SetPage(Orientation::Landscape, true);
+    printer.Print(u"Page"_s);
+    EXPECT_EQ(Printed().Property(u"Page size"_s), u"792 x 612 pts (letter)"_s);
+}
+
+TEST_F(PagePrinterTest, AnEmptyPageIsPrintedWhenAnotherFollows) {
+    printer.NewPage();
+    printer.EndJob();
+    EXPECT_EQ(PrintedPages(opened.value(0)).Count(), 2);
+}
+
+TEST_F(PagePrinterTest, ADocumentsFolderThatCannotBeMadeFails) {
+    folder.Write(u"Papers"_s, "a file in the way");
+    printer.Print(u"Page"_s);
+    EXPECT_EQ(FailureOfEndJob(), u"Making the folder %1 failed: Not a directory"_s.arg(
+                                     folder.PathOf(u"Papers/Tessel Delivery"_s)));
+    EXPECT_TRUE(opened.isEmpty());
+    EXPECT_EQ(folder.Read(u"Papers"_s), "a file in the way");
+}
+
+TEST_F(PagePrinterTest, ADocumentsFolderThatMayNotBeWrittenFails) {
+    folder.MakeFolder(u"Papers/Tessel Delivery"_s);
+    DropRootRights(folder);
+    ASSERT_TRUE(QFile::setPermissions(folder.PathOf(u"Papers/Tessel Delivery"_s),
+                                      QFile::ReadOwner | QFile::ExeOwner));
+    printer.Print(u"Page"_s);
+    EXPECT_EQ(FailureOfEndJob(), u"Writing the document %1 failed: Permission denied"_s.arg(
+                                     PathOfDocument(u"Tessel Delivery.pdf"_s)));
+    EXPECT_TRUE(opened.isEmpty());
+    EXPECT_TRUE(Documents().isEmpty());
+}
+
+TEST_F(PagePrinterTest, AFullDiskFailsAndLeavesNoPartOfTheDocument) {
+    printer.Print(u"Page"_s);
+    {
+        const FullDisk disk(1000);
+        EXPECT_EQ(FailureOfEndJob(), u"Writing the document %1 failed: File too large"_s.arg(
+                                         PathOfDocument(u"Tessel Delivery.pdf"_s)));
+    }
+    EXPECT_TRUE(opened.isEmpty());
+    EXPECT_TRUE(Documents().isEmpty());
+}
+
+TEST_F(PagePrinterTest, AJobAfterAFailedOneIsPrinted) {
+    printer.Print(u"Failed"_s);
+    printer.NewPage();
+    {
+        const FullDisk disk(1000);
+        FailureOfEndJob();
+    }
+    EXPECT_EQ(printer.PageNumber(), 1);
+    printer.AbandonJob();
+    printer.Print(u"Printed"_s);
+    const PrintedPages pages = Printed();
+    EXPECT_EQ(pages.Count(), 1);
+    EXPECT_EQ(pages.Words(1), QStringList{u"Printed"_s});
+}

@@ -1,0 +1,294 @@
+#include "schedule/PrinterRoutines.h"
+
+#include "schedule/ScheduleTest.h"
+
+using namespace Qt::StringLiterals;
+
+class PrinterRoutinesTest : public ScheduleTest {
+protected:
+    PrinterRoutinesTest() {
+        settings.BorderColor = 0x112233;
+        settings.TextColor = 0x445566;
+        settings.BusinessData = {
+            u"Tessel Gravel"_s, u"1 Quarry Road"_s, u"Building 2"_s, u"Springfield"_s, u"IL"_s,
+            u"62701"_s,         u"555-0100"_s,      u"555-0101"_s,   u"Tax 99"_s};
+    }
+
+    LiveSettings& settings = office.settings;
+    PrinterRoutines& routines = office.printer;
+};
+
+TEST_F(PrinterRoutinesTest, PreparingSetsOrientationAndColourMode) {
+    routines.PreparePrinter(Orientation::Portrait, false);
+    routines.PreparePrinter(Orientation::Landscape, true);
+    EXPECT_EQ(printer.Orientations,
+              (std::vector<Orientation>{Orientation::Portrait, Orientation::Landscape}));
+    EXPECT_EQ(printer.Colors, (std::vector<bool>{false, true}));
+}
+
+TEST_F(PrinterRoutinesTest, PreparingSetsTheDocumentFontInBlackAndLeavesItsSize) {
+    settings.DocumentFont = u"Courier"_s;
+    printer.FontName = u"Other"_s;
+    printer.FontSize = 17;
+    printer.FontBold = true;
+    printer.FontUnderline = true;
+    printer.ForeColor = 0xff;
+    routines.PreparePrinter(Orientation::Portrait, true);
+    EXPECT_EQ(printer.FontName, u"Courier"_s);
+    EXPECT_EQ(printer.FontSize, 17);
+    EXPECT_FALSE(printer.FontBold);
+    EXPECT_FALSE(printer.FontUnderline);
+    EXPECT_EQ(printer.ForeColor, 0U);
+}
+
+TEST_F(PrinterRoutinesTest, PreparingLeavesTheColourLastChosen) {
+    settings.ckColor = 1;
+    routines.SetPrintColor(PrintColor::Text);
+    routines.PreparePrinter(Orientation::Portrait, true);
+    EXPECT_EQ(routines.CurrentPrintColor(), 0x445566U);
+}
+
+TEST_F(PrinterRoutinesTest, PositionIsInInches) {
+    routines.PositionAt(5.75F, 1.5F);
+    EXPECT_EQ(printer.CurrentX, 8280);
+    EXPECT_EQ(printer.CurrentY, 2160);
+}
+
+TEST_F(PrinterRoutinesTest, PositionAtZeroAndZeroDoesNothing) {
+    printer.CurrentX = 123;
+    printer.CurrentY = 456;
+    routines.PositionAt(0, 0);
+    EXPECT_EQ(printer.CurrentX, 123);
+    EXPECT_EQ(printer.CurrentY, 456);
+}
+
+TEST_F(PrinterRoutinesTest, NegativePositionLeavesItsAxisAlone) {
+    printer.CurrentX = 123;
+    printer.CurrentY = 456;
+    routines.PositionAt(-1, 2);
+    EXPECT_EQ(printer.CurrentX, 123);
+    EXPECT_EQ(printer.CurrentY, 2880);
+    routines.PositionAt(1, -2);
+    EXPECT_EQ(printer.CurrentX, 1440);
+    EXPECT_EQ(printer.CurrentY, 2880);
+}
+
+TEST_F(PrinterRoutinesTest, FontSizeOfZeroOrLessLeavesTheSize) {
+    routines.SetPrintFont(12, true, false);
+    EXPECT_EQ(printer.FontSize, 12);
+    routines.SetPrintFont(0, true, false);
+    EXPECT_EQ(printer.FontSize, 12);
+    routines.SetPrintFont(-3, true, false);
+    EXPECT_EQ(printer.FontSize, 12);
+}
+
+TEST_F(PrinterRoutinesTest, BoldAndUnderlineAreAlwaysSet) {
+    routines.SetPrintFont(0, true, false);
+    EXPECT_TRUE(printer.FontBold);
+    EXPECT_FALSE(printer.FontUnderline);
+    routines.SetPrintFont(0, false, true);
+    EXPECT_FALSE(printer.FontBold);
+    EXPECT_TRUE(printer.FontUnderline);
+}
+
+TEST_F(PrinterRoutinesTest, TextInColourIsBlueAndTheTextColourReachesTheRulesOnly) {
+    settings.ckColor = 1;
+    routines.SetPrintColor(PrintColor::Text);
+    EXPECT_EQ(printer.ForeColor, 16711680U);
+    EXPECT_EQ(routines.CurrentPrintColor(), 0x445566U);
+}
+
+TEST_F(PrinterRoutinesTest, TextWithoutColourIsBlack) {
+    settings.ckColor = 1;
+    routines.SetPrintColor(PrintColor::Text);
+    settings.ckColor = 0;
+    routines.SetPrintColor(PrintColor::Text);
+    EXPECT_EQ(printer.ForeColor, 0U);
+    EXPECT_EQ(routines.CurrentPrintColor(), 0U);
+}
+
+TEST_F(PrinterRoutinesTest, BordersInColourTakeTheBorderColour) {
+    settings.ckColor = 1;
+    routines.SetPrintColor(PrintColor::Border);
+    EXPECT_EQ(printer.ForeColor, 0x112233U);
+    EXPECT_EQ(routines.CurrentPrintColor(), 0x112233U);
+}
+
+TEST_F(PrinterRoutinesTest, BordersWithoutColourAreBlack) {
+    settings.ckColor = 1;
+    routines.SetPrintColor(PrintColor::Border);
+    settings.ckColor = 0;
+    routines.SetPrintColor(PrintColor::Border);
+    EXPECT_EQ(printer.ForeColor, 0U);
+    EXPECT_EQ(routines.CurrentPrintColor(), 0U);
+}
+
+TEST_F(PrinterRoutinesTest, SelectorsHaveTheirNumbers) {
+    EXPECT_EQ(PrintColor(-1), PrintColor::Text);
+    EXPECT_EQ(PrintColor(0), PrintColor::Border);
+}
+
+TEST_F(PrinterRoutinesTest, AnyOtherColourSelectorDoesNothing) {
+    settings.ckColor = 1;
+    routines.SetPrintColor(PrintColor::Border);
+    for (const qint16 selector : {qint16(1), qint16(2), qint16(-2)}) {
+        routines.SetPrintColor(PrintColor(selector));
+        EXPECT_EQ(printer.ForeColor, 0x112233U);
+        EXPECT_EQ(routines.CurrentPrintColor(), 0x112233U);
+    }
+}
+
+// At size 10 a character is 100 twips wide and a line 240 twips high.
+
+TEST_F(PrinterRoutinesTest, WrappedTextBreaksAtTheLastBlankThatFitsWidthLessTwenty) {
+    routines.PrintWrapped(500, 1000, 620, 5000, u"aa bb cc dd"_s);
+    EXPECT_EQ(DrawnTexts(), (QStringList{u"1: 500,1000 10 aa bb"_s, u"1: 500,1240 10 cc dd"_s}));
+    EXPECT_EQ(printer.CurrentX, 0);
+    EXPECT_EQ(printer.CurrentY, 1480);
+}
+
+TEST_F(PrinterRoutinesTest, WrappedTextBreaksEarlierWhenTheBlankIsOneTwipTooFar) {
+    routines.PrintWrapped(500, 1000, 619, 5000, u"aa bb cc dd"_s);
+    EXPECT_EQ(DrawnTexts(), (QStringList{u"1: 500,1000 10 aa"_s, u"1: 500,1240 10 bb"_s,
+                                         u"1: 500,1480 10 cc dd"_s}));
+}
+
+TEST_F(PrinterRoutinesTest, LastWordStaysOnItsLineSinceNoBlankFollowsIt) {
+    routines.PrintWrapped(500, 1000, 620, 5000, u"aa bb cccccccccc"_s);
+    EXPECT_EQ(DrawnTexts(), QStringList{u"1: 500,1000 10 aa bb cccccccccc"_s});
+}
+
+TEST_F(PrinterRoutinesTest, SingleWordWiderThanTheBoxIsPrintedWhole) {
+    routines.PrintWrapped(500, 1000, 320, 5000, u"wwwwwwwwww"_s);
+    routines.PrintWrapped(500, 3000, 320, 5000, u"wwwwwwwwww a b"_s);
+    EXPECT_EQ(DrawnTexts(), (QStringList{u"1: 500,1000 10 wwwwwwwwww"_s,
+                                         u"1: 500,3000 10 wwwwwwwwww"_s, u"1: 500,3240 10 a b"_s}));
+}
+
+TEST_F(PrinterRoutinesTest, RestOfWrappedTextIsTrimmedOnItsLeft) {
+    routines.PrintWrapped(500, 1000, 320, 5000, u"aa   bb   cc"_s);
+    EXPECT_EQ(DrawnTexts(), (QStringList{u"1: 500,1000 10 aa"_s, u"1: 500,1240 10 bb"_s,
+                                         u"1: 500,1480 10 cc"_s}));
+}
+
+TEST_F(PrinterRoutinesTest, WrappedTextLeftOverAtTheBottomIsDropped) {
+    routines.PrintWrapped(500, 1000, 320, 480, u"aa bb cc dd ee"_s);
+    EXPECT_EQ(DrawnTexts(), (QStringList{u"1: 500,1000 10 aa"_s, u"1: 500,1240 10 bb"_s}));
+}
+
+TEST_F(PrinterRoutinesTest, LineThatBeginsAboveTheBottomIsPrinted) {
+    routines.PrintWrapped(500, 1000, 320, 481, u"aa bb cc dd ee"_s);
+    EXPECT_EQ(DrawnTexts(), (QStringList{u"1: 500,1000 10 aa"_s, u"1: 500,1240 10 bb"_s,
+                                         u"1: 500,1480 10 cc"_s}));
+}
+
+TEST_F(PrinterRoutinesTest, BoxWithoutHeightTakesOneLine) {
+    routines.PrintWrapped(500, 1000, 320, 0, u"aa bb cc"_s);
+    EXPECT_EQ(DrawnTexts(), QStringList{u"1: 500,1000 10 aa"_s});
+}
+
+TEST_F(PrinterRoutinesTest, EmptyWrappedTextPrintsOneEmptyLineAndStops) {
+    routines.PrintWrapped(500, 1000, 320, 5000, {});
+    EXPECT_TRUE(printer.Texts.empty());
+    EXPECT_EQ(printer.CurrentX, 0);
+    EXPECT_EQ(printer.CurrentY, 1240);
+}
+
+TEST_F(PrinterRoutinesTest, WrappedTextThatEndsInABlankHasNoLineBehindIt) {
+    routines.PrintWrapped(500, 1000, 320, 5000, u"wwwwwwwwww "_s);
+    EXPECT_EQ(DrawnTexts(), QStringList{u"1: 500,1000 10 wwwwwwwwww"_s});
+    EXPECT_EQ(printer.CurrentY, 1240);
+}
+
+TEST_F(PrinterRoutinesTest, WrappedTextInABoxNarrowerThanABlankComesToAnEnd) {
+    routines.PrintWrapped(500, 1000, 0, 5000, u" a b"_s);
+    EXPECT_EQ(DrawnTexts(), (QStringList{u"1: 500,1240 10 a"_s, u"1: 500,1480 10 b"_s}));
+}
+
+TEST_F(PrinterRoutinesTest, WrappedTextIsMeasuredInTheFontInForce) {
+    printer.FontSize = 20;
+    // 200 twips a character: "aa " takes 600, "aa bb " 1200.
+    routines.PrintWrapped(500, 1000, 1219, 5000, u"aa bb cc"_s);
+    EXPECT_EQ(DrawnTexts(), (QStringList{u"1: 500,1000 20 aa"_s, u"1: 500,1480 20 bb cc"_s}));
+}
+
+TEST_F(PrinterRoutinesTest, BusinessHeadingInTheUnitedStatesStyle) {
+    routines.PrintBusinessHeading(2.0F, 0.5F, 14);
+    EXPECT_EQ(
+        DrawnTexts(),
+        (QStringList{u"1: 2880,720 14b Tessel Gravel"_s, u"1: 2880,1056 10 1 Quarry Road"_s,
+                     u"1: 2880,1296 10 Building 2"_s, u"1: 2880,1536 10 Springfield, IL. 62701"_s,
+                     u"1: 2880,1776 10 Telephone: 555-0100"_s, u"1: 2880,2016 10 555-0101"_s,
+                     u"1: 2880,2256 10 Tax 99"_s}));
+}
+
+TEST_F(PrinterRoutinesTest, BusinessHeadingInTheInternationalStyle) {
+    settings.cmdAddress = u"International Style Address"_s;
+    routines.PrintBusinessHeading(2.0F, 0.5F, 14);
+    EXPECT_EQ(DrawnTexts(),
+              (QStringList{u"1: 2880,720 14b Tessel Gravel"_s, u"1: 2880,1056 10 1 Quarry Road"_s,
+                           u"1: 2880,1296 10 Building 2"_s, u"1: 2880,1536 10 Springfield"_s,
+                           u"1: 2880,1776 10 IL"_s, u"1: 2880,2016 10 Telephone: 555-0100"_s,
+                           u"1: 2880,2256 10 555-0101"_s, u"1: 2880,2496 10 Tax 99"_s}));
+}
+
+TEST_F(PrinterRoutinesTest, EmptyFieldsOfTheHeadingTakeNoLineButTheSecond) {
+    settings.BusinessData = {};
+    settings.BusinessData[0] = u"Tessel Gravel"_s;
+    settings.BusinessData[8] = u"Tax 99"_s;
+    routines.PrintBusinessHeading(2.0F, 0.5F, 10);
+    // The empty second field takes the line at 960.
+    EXPECT_EQ(DrawnTexts(),
+              (QStringList{u"1: 2880,720 10b Tessel Gravel"_s, u"1: 2880,1200 10 Tax 99"_s}));
+}
+
+TEST_F(PrinterRoutinesTest, EmptyFieldsOfTheInternationalAddressTakeNoLine) {
+    settings.cmdAddress = u"International Style Address"_s;
+    settings.BusinessData = {};
+    settings.BusinessData[4] = u"Region"_s;
+    routines.PrintBusinessHeading(2.0F, 0.5F, 10);
+    EXPECT_EQ(DrawnTexts(), QStringList{u"1: 2880,1200 10 Region"_s});
+}
+
+TEST_F(PrinterRoutinesTest, CityAloneKeepsItsComma) {
+    settings.BusinessData = {};
+    settings.BusinessData[3] = u"Springfield"_s;
+    settings.BusinessData[5] = u"62701"_s;
+    routines.PrintBusinessHeading(2.0F, 0.5F, 10);
+    EXPECT_EQ(DrawnTexts(), QStringList{u"1: 2880,1200 10 Springfield, "_s});
+}
+
+TEST_F(PrinterRoutinesTest, StateAloneKeepsItsPointAndPostalCode) {
+    settings.BusinessData = {};
+    settings.BusinessData[4] = u"IL"_s;
+    settings.BusinessData[5] = u"62701"_s;
+    routines.PrintBusinessHeading(2.0F, 0.5F, 10);
+    EXPECT_EQ(DrawnTexts(), QStringList{u"1: 2880,1200 10 IL. 62701"_s});
+}
+
+TEST_F(PrinterRoutinesTest, PostalCodeAloneIsNotPrinted) {
+    settings.BusinessData = {};
+    settings.BusinessData[5] = u"62701"_s;
+    settings.BusinessData[6] = u"555-0100"_s;
+    routines.PrintBusinessHeading(2.0F, 0.5F, 10);
+    EXPECT_EQ(DrawnTexts(), QStringList{u"1: 2880,1200 10 Telephone: 555-0100"_s});
+}
+
+TEST_F(PrinterRoutinesTest, BusinessHeadingAtNoHeightStartsAtThePen) {
+    printer.CurrentY = 3000;
+    routines.PrintBusinessHeading(2.0F, 0, 10);
+    EXPECT_EQ(printer.Find(u"Tessel Gravel"_s).y, 3000);
+    EXPECT_EQ(printer.Find(u"Tessel Gravel"_s).x, 2880);
+}
+
+TEST_F(PrinterRoutinesTest, BusinessHeadingIsPrintedInTheTextColour) {
+    settings.ckColor = 1;
+    printer.FontUnderline = true;
+    routines.PrintBusinessHeading(2.0F, 0.5F, 14);
+    for (const auto& text : printer.Texts) {
+        EXPECT_EQ(text.color, 16711680U);
+        EXPECT_FALSE(text.underline);
+    }
+    EXPECT_EQ(printer.Texts.size(), 7U);
+    EXPECT_EQ(routines.CurrentPrintColor(), 0x445566U);
+}

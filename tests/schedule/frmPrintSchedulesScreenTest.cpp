@@ -1,0 +1,431 @@
+#include "platform/Grid.h"
+#include "schedule/frmPrintSchedules.h"
+#include "support/SampleSlips.h"
+#include "support/ScreenTest.h"
+
+#include <QCheckBox>
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr ScreenName board = ScreenName::frmPrintSchedules;
+
+constexpr int selectColumn = 0;
+constexpr int customerColumn = 1;
+constexpr int slipColumn = 3;
+constexpr int timeColumn = 4;
+constexpr int chargeColumn = 5;
+
+} // namespace
+
+class PrintSchedulesScreen : public ScreenTest {
+protected:
+    void WriteBusiness() {
+        WriteVehicles(office, {u"Van 2"_s, u"Tanker"_s});
+        WriteSlip(office, {.number = u"501"_s, .time = u"01:00pm"_s, .customer = u"Baker"_s});
+        WriteSlip(office, {.number = u"502"_s, .time = u"07.15am"_s});
+        WriteSlip(office, {.number = u"503"_s,
+                           .date = u"3/10/2026"_s,
+                           .time = u"08:30am"_s,
+                           .customer = u"Hill School"_s});
+        WriteSlip(office, {.number = u"504"_s, .vehicle = u"Tanker"_s, .customer = u"Farm"_s});
+    }
+
+    void Open() {
+        screens.Show(board);
+        grid = Find<Grid>(board, u"fgSchedule"_s);
+    }
+
+    QString Cell(int row, int column) { return office.board.fgSchedule.Text(row, column); }
+    QPushButton* Button(int index) {
+        return Find<QPushButton>(board, u"cmdPrint(%1)"_s.arg(index));
+    }
+    QString Caption(const QString& name) { return Find<QLabel>(board, name)->text(); }
+    QLineEdit* Charge() { return Find<QLineEdit>(board, u"txtDeliveryCharge"_s); }
+    QDateEdit* Date() { return Find<QDateEdit>(board, u"DTPicker1"_s); }
+
+    Grid* grid = nullptr;
+};
+
+TEST_F(PrintSchedulesScreen, FirstShowingPicksTheFirstVehicleAndToday) {
+    WriteBusiness();
+    Open();
+    EXPECT_EQ(Date()->date(), QDate(2026, 3, 9));
+    EXPECT_EQ(Caption(u"lblWeekday"_s), u"Monday"_s);
+    EXPECT_EQ(Caption(u"Label1(14)"_s), u"Van 2 - 3/9/2026"_s);
+    ASSERT_EQ(office.board.fgSchedule.Rows(), 3);
+    EXPECT_EQ(Cell(1, customerColumn), u"Corner Grocery"_s);
+    EXPECT_EQ(Cell(2, customerColumn), u"Baker"_s);
+    EXPECT_FALSE(Button(12)->isEnabled());
+}
+
+TEST_F(PrintSchedulesScreen, ComingBackFindsTheBoardAsItWasLeft) {
+    WriteBusiness();
+    Open();
+    ClickCell(grid, 1, selectColumn);
+    screens.Hide(board);
+    screens.Show(board);
+    EXPECT_EQ(Cell(1, selectColumn), u" \u00ab"_s);
+}
+
+TEST_F(PrintSchedulesScreen, SlipDeletedByTheStartsPassDoesNotStopTheBoard) {
+    WriteBusiness();
+    office.slips.LoadSlips(false);
+    office.disk.KillFile(u"/TesselDelivery/Deliveries/503.txt"_s);
+    Open();
+    EXPECT_TRUE(Failures().empty());
+    EXPECT_EQ(office.board.fgSchedule.Rows(), 3);
+}
+
+TEST_F(PrintSchedulesScreen, SlipWhoseFileGoesWhileTheBoardIsUpIsAFailure) {
+    WriteBusiness();
+    Open();
+    office.disk.KillFile(u"/TesselDelivery/Deliveries/503.txt"_s);
+    Click(board, u"UpDown1(up)"_s);
+    ASSERT_EQ(Failures().size(), 1U);
+    EXPECT_EQ(Failures()[0].Kind(), FailureKind::FileNotFound);
+    EXPECT_TRUE(Failures()[0].Sentence().contains(u"TesselDelivery/Deliveries/503.txt"_s));
+}
+
+TEST_F(PrintSchedulesScreen, ClickOnAVehicleLoadsItsDeliveries) {
+    WriteBusiness();
+    Open();
+    auto* vehicles = Find<QListView>(board, u"lstVehicles"_s);
+    const QRect second = vehicles->visualRect(vehicles->model()->index(1, 0));
+    QTest::mouseClick(vehicles->viewport(), Qt::LeftButton, Qt::NoModifier, second.center());
+    ASSERT_EQ(office.board.fgSchedule.Rows(), 2);
+    EXPECT_EQ(Cell(1, customerColumn), u"Farm"_s);
+    EXPECT_EQ(Caption(u"Label1(14)"_s), u"Tanker - 3/9/2026"_s);
+}
+
+TEST_F(PrintSchedulesScreen, UpDownStepsTheDateByOneDay) {
+    WriteBusiness();
+    Open();
+    Click(board, u"UpDown1(up)"_s);
+    EXPECT_EQ(Date()->date(), QDate(2026, 3, 10));
+    EXPECT_EQ(Caption(u"lblWeekday"_s), u"Tuesday"_s);
+    EXPECT_EQ(Cell(1, customerColumn), u"Hill School"_s);
+    Click(board, u"UpDown1(down)"_s);
+    EXPECT_EQ(Date()->date(), QDate(2026, 3, 9));
+}
+
+TEST_F(PrintSchedulesScreen, StepBeforeTodayIsResetWithBeepAndMessage) {
+    Open();
+    user.ExpectMessage(u"Date has been Reset to Next Available Work Day"_s, u"Invalid Date"_s);
+    Click(board, u"UpDown1(down)"_s);
+    EXPECT_EQ(Date()->date(), QDate(2026, 3, 9));
+    EXPECT_EQ(user.Beeps, 1);
+}
+
+TEST_F(PrintSchedulesScreen, DateTypedBeforeTodayWithPromptsOffIsCorrectedSilently) {
+    Open();
+    office.settings.PromptsOn = false;
+    office.settings.AlarmOn = false;
+    Date()->setFocus();
+    Date()->selectAll();
+    Type(Date(), u"3/2/2026"_s);
+    Press(Date(), Qt::Key_Return);
+    EXPECT_EQ(Date()->date(), QDate(2026, 3, 9));
+    EXPECT_EQ(user.Beeps, 0);
+}
+
+TEST_F(PrintSchedulesScreen, SaturdayMovesToMondayInSilence) {
+    Open();
+    Date()->setDate({2026, 3, 14});
+    EXPECT_EQ(Date()->date(), QDate(2026, 3, 16));
+}
+
+TEST_F(PrintSchedulesScreen, ClickInColumnZeroMarksTheRowAlone) {
+    WriteBusiness();
+    Open();
+    ClickCell(grid, 1, selectColumn);
+    EXPECT_EQ(Cell(1, selectColumn), u" \u00ab"_s);
+    EXPECT_TRUE(Button(12)->isEnabled());
+    EXPECT_TRUE(Button(1)->isEnabled());
+    EXPECT_EQ(office.board.SelectedSlip, u"502"_s);
+    ClickCell(grid, 2, selectColumn);
+    EXPECT_EQ(Cell(1, selectColumn), QString());
+    EXPECT_EQ(Cell(2, selectColumn), u" \u00ab"_s);
+}
+
+TEST_F(PrintSchedulesScreen, SecondClickOnTheSameRowRemovesTheMark) {
+    WriteBusiness();
+    Open();
+    ClickCell(grid, 1, selectColumn);
+    ClickCell(grid, 1, selectColumn);
+    EXPECT_EQ(Cell(1, selectColumn), QString());
+    EXPECT_FALSE(Button(12)->isEnabled());
+    EXPECT_TRUE(Button(1)->isEnabled());
+}
+
+TEST_F(PrintSchedulesScreen, ClickInAnotherColumnOpensTheSlipAndDisablesTheToggle) {
+    WriteBusiness();
+    Open();
+    ClickCell(grid, 1, selectColumn);
+    ClickCell(grid, 2, customerColumn);
+    EXPECT_FALSE(Button(12)->isEnabled());
+    EXPECT_EQ(Cell(1, selectColumn), u" \u00ab"_s);
+    EXPECT_EQ(Caption(u"lblCustomer(0)"_s), u"Baker"_s);
+}
+
+TEST_F(PrintSchedulesScreen, ClickOnTheHeadingOnlyDisablesTheToggle) {
+    WriteBusiness();
+    Open();
+    ClickCell(grid, 1, selectColumn);
+    Q_EMIT grid->Clicked(0, chargeColumn);
+    EXPECT_FALSE(Button(12)->isEnabled());
+    EXPECT_NE(screens.Find(board)->focusWidget(), Charge());
+}
+
+TEST_F(PrintSchedulesScreen, ClickInTheChargeColumnClearsTheBoxAndGoesThere) {
+    WriteBusiness();
+    office.settings.ckDeliveryCharge = 1;
+    office.settings.txtDeliveryCharge = u"$12.50"_s;
+    Open();
+    EXPECT_EQ(Charge()->text(), u"$12.50"_s);
+    ClickCell(grid, 1, chargeColumn);
+    EXPECT_EQ(Charge()->text(), u"$0.00"_s);
+    EXPECT_EQ(screens.Find(board)->focusWidget(), Charge());
+}
+
+TEST_F(PrintSchedulesScreen, EmptyDayKeepsOneRowThatLoadsNothing) {
+    WriteVehicles(office, {u"Van 2"_s});
+    Open();
+    ASSERT_EQ(office.board.fgSchedule.Rows(), 2);
+    ClickCell(grid, 1, customerColumn);
+    EXPECT_TRUE(Failures().empty());
+    user.ExpectMessage(u"You have not selected a Delivery from the Grid"_s);
+    Click(board, u"cmdPrint(1)"_s);
+    EXPECT_EQ(Charge()->text(), u"$0.00"_s);
+    EXPECT_EQ(screens.Find(board)->focusWidget(), Charge());
+}
+
+TEST_F(PrintSchedulesScreen, TypedDigitReplacesTheZeroInTheChargeBox) {
+    Open();
+    Charge()->setFocus();
+    Type(Charge(), u"12.5"_s);
+    EXPECT_EQ(Charge()->text(), u"12.5"_s);
+}
+
+TEST_F(PrintSchedulesScreen, ChargeBoxRefusesLettersLeadingZeroAndSecondPointWithABeep) {
+    Open();
+    Charge()->setFocus();
+    Charge()->clear();
+    Type(Charge(), u"0"_s);
+    EXPECT_EQ(Charge()->text(), QString());
+    EXPECT_EQ(user.Beeps, 1);
+    Type(Charge(), u"1.5x"_s);
+    EXPECT_EQ(Charge()->text(), u"1.5"_s);
+    EXPECT_EQ(user.Beeps, 2);
+    Type(Charge(), u"."_s);
+    EXPECT_EQ(Charge()->text(), u"1.5"_s);
+    EXPECT_EQ(user.Beeps, 3);
+}
+
+TEST_F(PrintSchedulesScreen, ChargeGoesToTheCurrentRowAndTheSlipPanel) {
+    WriteBusiness();
+    Open();
+    ClickCell(grid, 2, customerColumn);
+    Charge()->setFocus();
+    Type(Charge(), u"5"_s);
+    Click(board, u"cmdPrint(1)"_s);
+    EXPECT_EQ(Cell(2, chargeColumn), u"$5.00"_s);
+    EXPECT_EQ(Charge()->text(), u"$5.00"_s);
+    EXPECT_EQ(Caption(u"lblCharge"_s), u"$5.00"_s);
+    EXPECT_EQ(Caption(u"lblGrandtotal"_s), u"$19.65"_s);
+}
+
+TEST_F(PrintSchedulesScreen, ClearButtonSetsZeroAndTakesTheFocus) {
+    Open();
+    Charge()->setText(u"7"_s);
+    Click(board, u"cmdPrint(2)"_s);
+    EXPECT_EQ(Charge()->text(), u"$0.00"_s);
+    EXPECT_EQ(screens.Find(board)->focusWidget(), Charge());
+}
+
+TEST_F(PrintSchedulesScreen, SelectAllAndDeselectAllFillAndEmptyTheWorkSchedule) {
+    WriteBusiness();
+    Open();
+    Click(board, u"cmdPrint(6)"_s);
+    EXPECT_EQ(office.board.lstWorkSchedule.stringList(),
+              (QStringList{u"Corner Grocery"_s, u"Baker"_s}));
+    ClickCell(grid, 1, customerColumn);
+    const QString shown = Caption(u"lblCustomer(0)"_s);
+    Click(board, u"cmdPrint(7)"_s);
+    EXPECT_EQ(Cell(1, selectColumn), QString());
+    EXPECT_TRUE(office.board.lstWorkSchedule.stringList().isEmpty());
+    EXPECT_EQ(Caption(u"lblCustomer(0)"_s), shown);
+    EXPECT_TRUE(Button(6)->isEnabled());
+}
+
+TEST_F(PrintSchedulesScreen, ToggleShowsTheRowsSlipUnderTheTablesNumber) {
+    WriteBusiness();
+    Open();
+    // The first row in time order is slip 502; the first in folder order is 501.
+    ClickCell(grid, 1, selectColumn);
+    Click(board, u"cmdPrint(12)"_s);
+    auto* panel = Find<Card>(board, u"fraSlip"_s);
+    EXPECT_TRUE(panel->isVisible());
+    EXPECT_TRUE(Find<QWidget>(board, u"fraInvoiceNo"_s)->isVisible());
+    EXPECT_EQ(panel->Heading()->text(), u"Delivery Slip 501"_s);
+    EXPECT_EQ(Caption(u"lblTime"_s), u"07.15am"_s);
+    EXPECT_EQ(Caption(u"lblAcctNo"_s), u"4471"_s);
+    EXPECT_EQ(Caption(u"txtShipto(1)"_s), u"2 Dock Rd"_s);
+    EXPECT_EQ(Caption(u"lblTotal"_s), u"$14.65"_s);
+    EXPECT_EQ(Caption(u"lblInvoice"_s), u"20260001"_s);
+    EXPECT_FALSE(Find<QWidget>(board, u"fraTax"_s)->isVisible());
+    EXPECT_EQ(office.board.fgItems.Text(2, 1), u"Butter"_s);
+    Click(board, u"cmdPrint(12)"_s);
+    EXPECT_FALSE(panel->isVisible());
+}
+
+TEST_F(PrintSchedulesScreen, CloseButtonHidesTheSlip) {
+    WriteBusiness();
+    Open();
+    ClickCell(grid, 1, selectColumn);
+    Click(board, u"cmdPrint(12)"_s);
+    Click(board, u"cmdPrint(5)"_s);
+    EXPECT_FALSE(Find<Card>(board, u"fraSlip"_s)->isVisible());
+}
+
+TEST_F(PrintSchedulesScreen, TaxesAreShownWhenOneIsApplied) {
+    WriteBusiness();
+    office.settings.ckApply1stTax = 1;
+    office.settings.cboRate1 = u"6.25"_s;
+    Open();
+    EXPECT_TRUE(Find<QRadioButton>(board, u"optTax(0)"_s)->isChecked());
+    EXPECT_FALSE(Find<QRadioButton>(board, u"optTax(1)"_s)->isEnabled());
+    ClickCell(grid, 1, selectColumn);
+    Click(board, u"cmdPrint(12)"_s);
+    EXPECT_TRUE(Find<QWidget>(board, u"fraTax"_s)->isVisible());
+    EXPECT_EQ(Caption(u"lblTax1"_s), u"$0.92"_s);
+    EXPECT_EQ(Caption(u"lblGrandtotal"_s), u"$15.57"_s);
+}
+
+TEST_F(PrintSchedulesScreen, OtherTaxOptionCountsAtTheNextLoadOfTheSlip) {
+    WriteBusiness();
+    office.settings.ckApply1stTax = 1;
+    office.settings.ckApply2ndTax = 1;
+    office.settings.cboRate1 = u"6.25"_s;
+    office.settings.cboRate2 = u"1.5"_s;
+    Open();
+    // With both taxes applied the single options stay as they stand, which is on no sign of use.
+    office.board.optTax[TaxOption::PrimaryOnly].isEnabled = true;
+    Find<QRadioButton>(board, u"optTax(0)"_s)->setEnabled(true);
+    ClickCell(grid, 1, customerColumn);
+    EXPECT_EQ(Caption(u"lblTax2"_s), u"$0.22"_s);
+    Click(board, u"optTax(0)"_s);
+    EXPECT_EQ(Caption(u"lblTax2"_s), u"$0.22"_s);
+    ClickCell(grid, 1, customerColumn);
+    EXPECT_EQ(Caption(u"lblTax2"_s), u"$0.00"_s);
+    EXPECT_EQ(Caption(u"lblTax1"_s), u"$0.92"_s);
+}
+
+TEST_F(PrintSchedulesScreen, PopulateInvoicesFollowsTheSetting) {
+    office.settings.ckPopulateInvoices = 1;
+    Open();
+    EXPECT_TRUE(Find<QCheckBox>(board, u"ckPopulated"_s)->isChecked());
+}
+
+TEST_F(PrintSchedulesScreen, PrintWithNothingMarkedPrintsNothing) {
+    WriteBusiness();
+    Open();
+    user.ExpectMessage(u"No Deliveries for Van 2 on 3/9/2026 have been Selected"_s,
+                       u"No Deliveries"_s);
+    Click(board, u"cmdPrint(3)"_s);
+    EXPECT_TRUE(printer.Texts.empty());
+}
+
+TEST_F(PrintSchedulesScreen, PrintLeavesTheLastSlipInThePanel) {
+    WriteBusiness();
+    Open();
+    Click(board, u"cmdPrint(6)"_s);
+    Click(board, u"cmdPrint(3)"_s);
+    EXPECT_EQ(printer.Jobs, 1);
+    EXPECT_EQ(Caption(u"lblCustomer(0)"_s), u"Baker"_s);
+}
+
+TEST_F(PrintSchedulesScreen, UntickedScheduleDoesNotPrint) {
+    WriteBusiness();
+    Open();
+    Find<QCheckBox>(board, u"ckPrintWorkSchedule"_s)->setChecked(false);
+    Click(board, u"cmdPrint(6)"_s);
+    Click(board, u"cmdPrint(3)"_s);
+    EXPECT_TRUE(printer.Texts.empty());
+}
+
+TEST_F(PrintSchedulesScreen, KeysInTheGridEditTheCellAsItStands) {
+    WriteBusiness();
+    Open();
+    ClickCell(grid, 1, slipColumn);
+    Press(grid, Qt::Key_Backspace);
+    EXPECT_EQ(Cell(1, slipColumn), u"50"_s);
+    Type(grid, u"7x"_s);
+    EXPECT_EQ(Cell(1, slipColumn), u"507"_s);
+    ClickCell(grid, 1, customerColumn);
+    Type(grid, u"7"_s);
+    EXPECT_EQ(Cell(1, customerColumn), u"Corner Grocery"_s);
+}
+
+TEST_F(PrintSchedulesScreen, EnterMultipliesSlipNumberAndTimeAndMovesOn) {
+    WriteBusiness();
+    Open();
+    office.board.fgSchedule.SetText(1, timeColumn, u"2"_s);
+    ClickCell(grid, 1, slipColumn);
+    office.board.fgSchedule.SetCurrent(1, slipColumn);
+    Press(grid, Qt::Key_Return);
+    EXPECT_EQ(Cell(1, chargeColumn), u"$1,004.00"_s);
+    EXPECT_EQ(office.board.fgSchedule.CurrentColumn(), timeColumn);
+    Press(grid, Qt::Key_Return);
+    EXPECT_EQ(office.board.fgSchedule.CurrentColumn(), slipColumn);
+    EXPECT_EQ(user.Beeps, 0);
+}
+
+TEST_F(PrintSchedulesScreen, EnterOnTextBeeps) {
+    WriteBusiness();
+    Open();
+    ClickCell(grid, 1, slipColumn);
+    Press(grid, Qt::Key_Return);
+    EXPECT_EQ(user.Beeps, 1);
+    EXPECT_EQ(Cell(1, chargeColumn), u"$0.00"_s);
+}
+
+TEST_F(PrintSchedulesScreen, ReturnToMenuHidesTheBoardAndShowsTheMenu) {
+    WriteBusiness();
+    office.disk.OpenForOutput(u"/NXInventoriedItems.txt"_s);
+    office.disk.OpenForOutput(u"/CustomerData.txt"_s);
+    office.disk.CloseAllFiles();
+    Open();
+    Click(board, u"cmdPrint(0)"_s);
+    EXPECT_FALSE(IsShown(board));
+    EXPECT_TRUE(IsShown(ScreenName::frmStartup));
+}
+
+TEST_F(PrintSchedulesScreen, CloseBoxAsksForTheEndOfTheProgram) {
+    Open();
+    screens.Find(board)->close();
+    EXPECT_EQ(exitRequests, 1);
+    EXPECT_TRUE(IsShown(board));
+}
+
+TEST_F(PrintSchedulesScreen, WheelScrollsTheGrid) {
+    WriteVehicles(office, {u"Van 2"_s});
+    for (int i = 0; i < 60; ++i)
+        WriteSlip(office, {.number = QString::number(600 + i)});
+    Open();
+    QCoreApplication::processEvents();
+    grid->scrollToTop();
+    QWheelEvent wheel({10, 10}, grid->viewport()->mapToGlobal(QPointF(10, 10)), {}, {0, -240},
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(grid->viewport(), &wheel);
+    EXPECT_GT(grid->verticalScrollBar()->value(), 0);
+}

@@ -1,0 +1,115 @@
+#include "startup/StartUp.h"
+#include "support/SampleSlips.h"
+#include "support/ScreenTest.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString question = u"Would you like to DELETE the Recurring Slip?"_s;
+const QString questionTitle = u"Delete a Recurring Slip"_s;
+const QString moved = u"The Recurring Delivery Slip has been Rescheduled"_s;
+
+/// Looks at the screens at the moment of the first message.
+class WatchingOperator : public ScriptedOperator {
+public:
+    Screens* Watched = nullptr;
+    bool SplashWasUp = false;
+    bool MenuWasMade = false;
+
+    Answer MsgBox(const QString& text, Buttons buttons, const QString& title) override {
+        SplashWasUp = Watched->Find(ScreenName::frmSplash)->isVisible();
+        MenuWasMade = Watched->Find(ScreenName::frmStartup) != nullptr;
+        return ScriptedOperator::MsgBox(text, buttons, title);
+    }
+};
+
+} // namespace
+
+class StartUpSequence : public ScreenTest {};
+
+TEST_F(StartUpSequence, EmptyFolderGetsItsFoldersAndNoFile) {
+    StartUp(office, screens);
+    const QStringList folders = {u"2026/"_s,
+                                 u"AuxFiles/"_s,
+                                 u"Backup/"_s,
+                                 u"Backup/NXActiveAccounts/"_s,
+                                 u"Backup/tessel-delivery/"_s,
+                                 u"NXActiveAccounts/"_s,
+                                 u"Templates/"_s,
+                                 u"Templates/Deliveries/"_s,
+                                 u"TesselDelivery/"_s,
+                                 u"TesselDelivery/Deliveries/"_s,
+                                 u"TesselDelivery/DeliveryItems/"_s};
+    EXPECT_EQ(folder.Everything(), folders);
+    EXPECT_TRUE(IsShown(ScreenName::frmSplash));
+    EXPECT_FALSE(IsShown(ScreenName::frmStartup));
+    EXPECT_EQ(office.deliveryTimes.rowCount(), 44);
+    EXPECT_EQ(office.items.ProductNames.rowCount(), 0);
+}
+
+TEST_F(StartUpSequence, ThreePastRecurringSlipsAskThreeQuestionsAndMoveOn) {
+    for (const QString& number : {u"1"_s, u"2"_s, u"3"_s})
+        WriteSlip(office, {.number = number,
+                           .date = u"3/3/2026"_s,
+                           .recurring = u"True"_s,
+                           .frequency = u"0000001"_s});
+    for (int i = 0; i < 3; ++i) {
+        user.ExpectQuestion(question, questionTitle, Answer::No);
+        user.ExpectMessage(moved);
+    }
+    StartUp(office, screens);
+    for (const QString& number : {u"1"_s, u"2"_s, u"3"_s})
+        EXPECT_TRUE(folder.Read(u"TesselDelivery/Deliveries/%1.txt"_s.arg(number))
+                        .startsWith(number.toLatin1() + "\r\n3/10/2026\r\n"));
+}
+
+TEST_F(StartUpSequence, SettingsFileOverrulesTheOtherTwo) {
+    folder.Write(u"Settings.txt"_s, "8\r\n7\r\n#FALSE#\r\n#FALSE#\r\n#FALSE#\r\n");
+    folder.Write(u"WorkDays.txt"_s, "5\r\n");
+    folder.Write(u"Prompts.txt"_s, "#TRUE#,#TRUE#\r\n");
+    StartUp(office, screens);
+    EXPECT_EQ(office.settings.WorkWeek, 7);
+    EXPECT_EQ(office.settings.shownWorkWeek, 5);
+    EXPECT_FALSE(office.settings.AlarmOn);
+    EXPECT_FALSE(office.settings.PromptsOn);
+    EXPECT_TRUE(office.settings.ckPrompts);
+}
+
+TEST_F(StartUpSequence, VehiclesAndItemsAreThereWhenTheMenuComes) {
+    WriteVehicles(office, {u"Van 2"_s});
+    SalesItem item{};
+    item.Description = u"Milk"_s;
+    item.SellPrice = Currency::OfTenThousandths(41'000);
+    office.disk.OpenRandom(u"/NXInventoriedItems.txt"_s, sizeof(SalesItem));
+    WriteRecord(office.disk, office.disk.DiskFile, 1, item);
+    office.disk.CloseAllFiles();
+    StartUp(office, screens);
+    EXPECT_EQ(office.fleet.Names.stringList(), QStringList{u"Van 2"_s});
+    EXPECT_EQ(office.items.ProductNames.stringList(), QStringList{u"Milk"_s});
+    EXPECT_EQ(office.items.ProductPrices.stringList(), QStringList{u"$4.10"_s});
+}
+
+TEST_F(StartUpSequence, QuestionsComeOverTheTitleScreenBeforeTheMenuIsMade) {
+    WriteSlip(office, {.number = u"7"_s, .date = u"3/6/2026"_s});
+    WatchingOperator watcher;
+    Office watched(folder.Path(), {clock, watcher, printer, browser});
+    Screens itsScreens(watched);
+    watcher.Watched = &itsScreens;
+    watcher.ExpectMessage(u"Delivery Slip 7 scheduled for 3/6/2026 has been Deleted"_s);
+    StartUp(watched, itsScreens);
+    EXPECT_TRUE(watcher.SplashWasUp);
+    EXPECT_FALSE(watcher.MenuWasMade);
+}
+
+TEST_F(StartUpSequence, BrokenSettingsFileStopsBeforeAnyFolderIsMade) {
+    TestFolder bare;
+    bare.Write(u"Settings.txt"_s, "8\r\n");
+    bare.Write(u"TaxSettings.txt"_s, "\"Sales Tax\"\r\n");
+    Office stopped(bare.Path(), {clock, user, printer, browser});
+    Screens itsScreens(stopped);
+    const RuntimeFailure failure = FailureOf([&] { StartUp(stopped, itsScreens); });
+    EXPECT_EQ(failure.Kind(), FailureKind::ReadPastEnd);
+    EXPECT_TRUE(failure.Sentence().contains(u"TaxSettings.txt"_s));
+    EXPECT_EQ(bare.Everything(), (QStringList{u"Settings.txt"_s, u"TaxSettings.txt"_s}));
+}

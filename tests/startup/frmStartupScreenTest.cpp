@@ -1,0 +1,262 @@
+#include "platform/RoutineLabel.h"
+#include "startup/frmStartup.h"
+#include "support/ScreenTest.h"
+
+#include <QAction>
+#include <QFile>
+#include <QLabel>
+#include <QMenu>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr ScreenName menu = ScreenName::frmStartup;
+
+const QString notBuilt = u"This routine is not part of this version yet."_s;
+
+} // namespace
+
+class StartupScreen : public ScreenTest {
+protected:
+    void WriteMasterFiles() {
+        folder.Write(u"NXInventoriedItems.txt"_s, {});
+        folder.Write(u"Vehicles.txt"_s, {});
+        folder.Write(u"CustomerData.txt"_s, {});
+    }
+
+    RoutineLabel* Routine(int index) {
+        return Find<RoutineLabel>(menu, u"lblSub(%1)"_s.arg(index));
+    }
+
+    /// The indexes of the routines that are open.
+    QList<int> Open() {
+        QList<int> open;
+        for (int i = 0; i < 10; ++i) {
+            if (Routine(i)->isEnabled())
+                open += i;
+        }
+        return open;
+    }
+
+    bool PanelIsShown() { return Find<QWidget>(menu, u"fraNoCustomerFound"_s)->isVisible(); }
+    void Trigger(const QString& item) { Find<QAction>(menu, item)->trigger(); }
+};
+
+TEST_F(StartupScreen, RoutinesCarryTheirCaptions) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    EXPECT_EQ(screens.Find(menu)->windowTitle(), u"Delivery Scheduling Main Menu"_s);
+    const QStringList captions = {u"&Print Delivery Schedules / Invoices"_s,
+                                  u"View &Scheduled Deliveries"_s,
+                                  u"Create/Modify C&ustomer Data"_s,
+                                  u"Create a &Holidays List"_s,
+                                  u"Create Delivery &Vehicles"_s,
+                                  u"S&chedule a Delivery"_s,
+                                  u"Create/Modify &Deliverable Products"_s,
+                                  u"&Taxes Collected Report"_s,
+                                  u"&Item Sales Report"_s,
+                                  u"Invoice &Report"_s};
+    for (int i = 0; i < captions.size(); ++i)
+        EXPECT_EQ(Routine(i)->text(), captions[i]);
+    EXPECT_EQ(Find<QLabel>(menu, u"Label1(6)"_s)->text(), u"(Reschedule and Delete)"_s);
+}
+
+TEST_F(StartupScreen, AllMasterFilesOpenAllRoutines) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    EXPECT_EQ(Open(), (QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9}));
+    EXPECT_FALSE(PanelIsShown());
+}
+
+TEST_F(StartupScreen, NewUserIsSentToTheProductsFirst) {
+    user.ExpectMessage(u"Create at least One Deliverable Product Now"_s);
+    user.ExpectMessage(notBuilt);
+    screens.Show(menu);
+    EXPECT_EQ(office.MenuChoice, 6);
+    EXPECT_EQ(Open(), (QList<int>{6, 7, 8, 9}));
+    EXPECT_TRUE(IsShown(menu));
+}
+
+TEST_F(StartupScreen, WithProductsTheVehiclesComeNext) {
+    folder.Write(u"NXInventoriedItems.txt"_s, {});
+    user.ExpectMessage(u"Create at least One Delivery Vehicle Now"_s);
+    user.ExpectMessage(notBuilt);
+    screens.Show(menu);
+    EXPECT_EQ(office.MenuChoice, 4);
+    EXPECT_EQ(Open(), (QList<int>{4, 7, 8, 9}));
+}
+
+TEST_F(StartupScreen, WithProductsAndVehiclesTheCustomerPanelStands) {
+    folder.Write(u"NXInventoriedItems.txt"_s, {});
+    folder.Write(u"Vehicles.txt"_s, {});
+    screens.Show(menu);
+    EXPECT_TRUE(PanelIsShown());
+    EXPECT_EQ(Open(), (QList<int>{2, 7, 8, 9}));
+}
+
+TEST_F(StartupScreen, VehiclesDeletedOnAWorkingSystemAreAskedForAtTheNextActivation) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    folder.Remove(u"Vehicles.txt"_s);
+    folder.Write(u"TesselDelivery/Deliveries/1.txt"_s, "1\r\n");
+    user.ExpectMessage(u"Create at least One Delivery Vehicle Now"_s);
+    user.ExpectMessage(notBuilt);
+    screens.Show(menu);
+}
+
+TEST_F(StartupScreen, ProductsInBackupCount) {
+    WriteMasterFiles();
+    folder.Remove(u"NXInventoriedItems.txt"_s);
+    folder.Write(u"Backup/NXInventoriedItems.txt"_s, {});
+    screens.Show(menu);
+    EXPECT_EQ(Open().size(), 10);
+    EXPECT_TRUE(folder.Has(u"NXInventoriedItems.txt"_s));
+}
+
+TEST_F(StartupScreen, CancelOfTheCustomerPanelOpensVehiclesAndProducts) {
+    folder.Write(u"NXInventoriedItems.txt"_s, {});
+    folder.Write(u"Vehicles.txt"_s, {});
+    screens.Show(menu);
+    Click(menu, u"cmdCancel"_s);
+    EXPECT_FALSE(PanelIsShown());
+    EXPECT_EQ(Open(), (QList<int>{2, 4, 6, 7, 8, 9}));
+}
+
+TEST_F(StartupScreen, GotoOpensTheItemSalesReport) {
+    folder.Write(u"NXInventoriedItems.txt"_s, {});
+    folder.Write(u"Vehicles.txt"_s, {});
+    screens.Show(menu);
+    user.ExpectMessage(notBuilt);
+    Click(menu, u"cmdGoto"_s);
+    EXPECT_EQ(office.MenuChoice, 8);
+}
+
+TEST_F(StartupScreen, ClickOnARoutineHidesTheMenuAndShowsItsScreen) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    office.MenuChoice = 9;
+    Click(menu, u"lblSub(0)"_s);
+    EXPECT_EQ(office.MenuChoice, 0);
+    EXPECT_FALSE(IsShown(menu));
+    EXPECT_TRUE(IsShown(ScreenName::frmPrintSchedules));
+}
+
+TEST_F(StartupScreen, RoutineWithoutAScreenLeavesTheOperatorOnTheMenu) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    for (int i = 1; i < 10; ++i) {
+        user.ExpectMessage(notBuilt);
+        Click(menu, u"lblSub(%1)"_s.arg(i));
+        EXPECT_EQ(office.MenuChoice, i);
+        EXPECT_TRUE(IsShown(menu));
+    }
+}
+
+TEST_F(StartupScreen, DoubleClickOnTheNoteActsAsRoutineOne) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    user.ExpectMessage(notBuilt);
+    QTest::mouseDClick(Find<QLabel>(menu, u"Label1(6)"_s), Qt::LeftButton);
+    EXPECT_EQ(office.MenuChoice, 1);
+}
+
+TEST_F(StartupScreen, SingleClickOnTheNoteDoesNothing) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    QTest::mouseClick(Find<QLabel>(menu, u"Label1(6)"_s), Qt::LeftButton);
+    EXPECT_TRUE(IsShown(menu));
+}
+
+TEST_F(StartupScreen, RoutineRunsByItsKey) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(screens.Find(menu)));
+    QTest::keyClick(screens.Find(menu), Qt::Key_P, Qt::AltModifier);
+    // A key press holds the button down for a moment.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return IsShown(ScreenName::frmPrintSchedules); }));
+}
+
+TEST_F(StartupScreen, ExitAndTheCloseBoxAskForTheEnd) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    Trigger(u"mnuExit"_s);
+    EXPECT_EQ(exitRequests, 1);
+    screens.Find(menu)->close();
+    EXPECT_EQ(exitRequests, 2);
+}
+
+TEST_F(StartupScreen, MenuBarCarriesItsCaptions) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    const std::pair<QString, QString> items[] = {
+        {u"mnuCreate"_s, u"Create/Modify"_s},      {u"mnuExit"_s, u"Exit"_s},
+        {u"mnuHelp"_s, u"Help"_s},                 {u"mnuDeluxe"_s, u"Checks, Envelopes"_s},
+        {u"mnuDepositSlips"_s, u"Deposit Slips"_s}, {u"mnuPPaper"_s, u"Plain Paper"_s},
+        {u"mnuPPPaper"_s, u"Perfed Paper"_s},      {u"mnuGraytex"_s, u"Proposal Sets"_s},
+        {u"mnuAddress"_s, u"Mailing Labels"_s},    {u"mnuLabels"_s, u"Shipping Labels"_s}};
+    for (const auto& [name, caption] : items)
+        EXPECT_EQ(Find<QAction>(menu, name)->text(), caption);
+    EXPECT_EQ(Find<QMenu>(menu, u"mnuFiles"_s)->title(), u" Files"_s);
+    EXPECT_EQ(Find<QMenu>(menu, u"mnuOrder"_s)->title(), u"Order Forms"_s);
+    EXPECT_EQ(Find<QMenu>(menu, u"mnuDeluxeForms"_s)->title(), u"Deluxe Business Forms"_s);
+}
+
+TEST_F(StartupScreen, OrderItemsAskBeforeTheyOpenASupplier) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    struct Item {
+        QString name;
+        QString title;
+        QString question;
+    };
+    const Item items[] = {
+        {u"mnuPPaper"_s, u"Order Paper"_s,
+         u"Use Plain Paper for Reports (etc)\nClick Yes to connect to a Supplier"_s},
+        {u"mnuPPPaper"_s, u"Order Paper"_s,
+         u"Perforated Response Paper is used to create\nInvoices with a remittance Slip\nClick Yes "
+         u"to connect to a Supplier"_s},
+        {u"mnuGraytex"_s, u"Order Graytex Forms"_s,
+         u"Proposal Sets are ready-made Forms\nConnect to Graytex Now"_s},
+        {u"mnuAddress"_s, u"Order Paper"_s,
+         u"30 to a Page Mailing Labels\nClick Yes to connect to a Supplier"_s},
+        {u"mnuLabels"_s, u"Order Labels"_s,
+         u"2 X 4 Shipping Labels\nClick YES to Connect to a Supplier"_s},
+    };
+    for (const Item& item : items) {
+        browser.Addresses.clear();
+        user.ExpectQuestion(item.question, item.title, Answer::No);
+        Trigger(item.name);
+        EXPECT_TRUE(browser.Addresses.isEmpty());
+        user.ExpectQuestion(item.question, item.title, Answer::Yes);
+        Trigger(item.name);
+        EXPECT_EQ(browser.Addresses.size(), 1);
+    }
+}
+
+TEST_F(StartupScreen, ChecksAndDepositSlipsOpenWithoutAQuestion) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    Trigger(u"mnuDeluxe"_s);
+    Trigger(u"mnuDepositSlips"_s);
+    EXPECT_EQ(browser.Addresses.size(), 2);
+    EXPECT_NE(browser.Addresses[0], browser.Addresses[1]);
+}
+
+TEST_F(StartupScreen, HelpOpensTheManualThatCameWithTheProgram) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    Trigger(u"mnuHelp"_s);
+    ASSERT_EQ(browser.Addresses.size(), 1);
+    EXPECT_TRUE(QFile::exists(QUrl(browser.Addresses[0]).toLocalFile()))
+        << browser.Addresses[0].toStdString();
+}
+
+TEST_F(StartupScreen, OpenUpdatePageOpensAnAddressAndEndsTheProgram) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    static_cast<frmStartup*>(screens.Find(menu))->OpenUpdatePage();
+    EXPECT_EQ(browser.Addresses.size(), 1);
+    EXPECT_EQ(exitRequests, 1);
+}

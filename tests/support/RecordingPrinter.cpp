@@ -1,0 +1,75 @@
+#include "support/RecordingPrinter.h"
+
+#include "platform/RuntimeFailure.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+const RecordingPrinter::Text& RecordingPrinter::Find(const QString& text) const {
+    const auto found = std::find_if(Texts.begin(), Texts.end(),
+                                    [&](const Text& drawn) { return drawn.text == text; });
+    if (found != Texts.end())
+        return *found;
+    ADD_FAILURE() << "Not printed: " << text.toStdString();
+    static const Text nothing{};
+    return nothing;
+}
+
+void RecordingPrinter::SetPage(Orientation orientation, bool inColor) {
+    Orientations.push_back(orientation);
+    Colors.push_back(inColor);
+}
+
+double RecordingPrinter::TextWidth(const QString& text) {
+    return 10.0 * FontSize * double(text.size());
+}
+
+double RecordingPrinter::TextHeight(const QString&) {
+    return 24.0 * FontSize;
+}
+
+void RecordingPrinter::Line(double x1, double y1, double x2, double y2, quint32 color) {
+    Lines.push_back({page, x1, y1, x2, y2, color});
+}
+
+void RecordingPrinter::Box(double x1, double y1, double x2, double y2, quint32 color) {
+    Boxes.push_back({page, x1, y1, x2, y2, color});
+}
+
+void RecordingPrinter::FillBox(double x1, double y1, double x2, double y2, quint32 color) {
+    FilledBoxes.push_back({page, x1, y1, x2, y2, color});
+}
+
+void RecordingPrinter::NewPage() {
+    ++page;
+    CurrentX = 0;
+    CurrentY = 0;
+}
+
+void RecordingPrinter::EndJob() {
+    if (FailsAtEndOfJob)
+        throw RuntimeFailure(FailureKind::PrinterFailure, u"The printer stopped."_s);
+    ++Jobs;
+    page = 1;
+    CurrentX = 0;
+    CurrentY = 0;
+}
+
+void RecordingPrinter::AbandonJob() {
+    ++AbandonedJobs;
+    page = 1;
+    CurrentX = 0;
+    CurrentY = 0;
+}
+
+void RecordingPrinter::DrawText(double x, double y, const QString& text) {
+    if (FailingText && int(Texts.size()) + 1 == *FailingText)
+        throw RuntimeFailure(FailsAsCancelled ? FailureKind::PrintCancelled
+                                              : FailureKind::PrinterFailure,
+                             u"The printer stopped."_s);
+    Texts.push_back(
+        {page, x, y, text, FontName, FontSize, FontBold, FontUnderline, ForeColor});
+}

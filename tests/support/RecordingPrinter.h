@@ -1,0 +1,67 @@
+#pragma once
+
+#include "platform/PrinterSurface.h"
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+/// A printer that records what was drawn where. A character is a tenth of the font size wide in
+/// points times 20 (so 100 twips at size 10), and a line is 24 twips a point high.
+class RecordingPrinter : public PrinterSurface {
+public:
+    struct Text {
+        int page;
+        double x;
+        double y;
+        QString text;
+        QString fontName;
+        int fontSize;
+        bool bold;
+        bool underline;
+        quint32 color;
+    };
+    struct Stroke {
+        int page;
+        double x1, y1, x2, y2;
+        quint32 color;
+    };
+
+    std::vector<Text> Texts;
+    std::vector<Stroke> Lines;
+    std::vector<Stroke> Boxes;
+    std::vector<Stroke> FilledBoxes;
+    std::vector<Orientation> Orientations;
+    std::vector<bool> Colors;
+    int Jobs = 0;
+    int AbandonedJobs = 0;
+    /// The call of Print (counted from 1) that fails, as a printer that dies in mid-job.
+    std::optional<int> FailingText;
+    /// Makes that failure the operator's cancelling.
+    bool FailsAsCancelled = false;
+    /// The printer dies when the job is sent off.
+    bool FailsAtEndOfJob = false;
+
+    /// The first text of that wording; fails the test when there is none.
+    const Text& Find(const QString& text) const;
+
+    void SetPage(Orientation orientation, bool inColor) override;
+    double PageWidth() const override { return 12240; }
+    double PageHeight() const override { return 15840; }
+    int PageNumber() const override { return page; }
+    double TextWidth(const QString& text) override;
+    double TextHeight(const QString& text) override;
+    void Line(double x1, double y1, double x2, double y2, quint32 color) override;
+    void Box(double x1, double y1, double x2, double y2, quint32 color) override;
+    void FillBox(double x1, double y1, double x2, double y2, quint32 color) override;
+    void NewPage() override;
+    void EndJob() override;
+    void AbandonJob() override;
+
+protected:
+    void DrawText(double x, double y, const QString& text) override;
+
+private:
+    int page = 1;
+};

@@ -1,0 +1,47 @@
+#include "support/ScreenTest.h"
+
+#include "platform/Grid.h"
+
+#include <QAction>
+
+ScreenTest::ScreenTest() : screens(office) {
+    Failures().clear();
+    QObject::connect(&screens, &Screens::ExitRequested, [this] { ++exitRequests; });
+}
+
+std::vector<RuntimeFailure>& ScreenTest::Failures() {
+    static std::vector<RuntimeFailure> failures;
+    return failures;
+}
+
+void ScreenTest::TellNames(ScreenName screen, const QString& name) const {
+    QStringList names;
+    for (const QObject* control : screens.Find(screen)->findChildren<QObject*>()) {
+        if (!control->objectName().isEmpty())
+            names += control->objectName();
+    }
+    ADD_FAILURE() << "No control " << name.toStdString() << " among "
+                  << names.join(QLatin1String(", ")).toStdString();
+}
+
+void ScreenTest::Click(ScreenName screen, const QString& button) {
+    QTest::mouseClick(Find<QAbstractButton>(screen, button), Qt::LeftButton);
+}
+
+void ScreenTest::ClickCell(Grid* grid, int row, int column) {
+    const QRect cell = grid->visualRect(grid->model()->index(row - 1, column));
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, cell.center());
+}
+
+void ScreenTest::Press(QWidget* control, Qt::Key key) {
+    QTest::keyClick(control, key);
+}
+
+void ScreenTest::Type(QWidget* control, const QString& text) {
+    QTest::keyClicks(control, text);
+}
+
+bool ScreenTest::IsShown(ScreenName screen) const {
+    const Screen* found = screens.Find(screen);
+    return found && found->isVisible();
+}

@@ -1,0 +1,50 @@
+#include "support/ScriptedOperator.h"
+
+#include "support/TextOutput.h"
+
+#include <gtest/gtest.h>
+
+ScriptedOperator::~ScriptedOperator() {
+    ExpectNothingLeft();
+}
+
+void ScriptedOperator::ExpectMessage(const QString& text, const QString& title) {
+    script.push_back({text, Buttons::Ok, title, Answer::Ok});
+}
+
+void ScriptedOperator::ExpectQuestion(const QString& text, const QString& title, Answer answer) {
+    script.push_back({text, Buttons::YesNo, title, answer});
+}
+
+void ScriptedOperator::ExpectNothingLeft() {
+    for (const Line& line : script)
+        ADD_FAILURE() << "This message never came: " << line.text.toStdString();
+    script.clear();
+}
+
+Answer ScriptedOperator::MsgBox(const QString& text, Buttons buttons, const QString& title) {
+    if (script.empty()) {
+        ADD_FAILURE() << "A message too many: " << text.toStdString();
+        return buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+    }
+    const Line line = script.front();
+    script.pop_front();
+    EXPECT_EQ(text, line.text);
+    EXPECT_EQ(buttons, line.buttons);
+    EXPECT_EQ(title, line.title);
+    return line.answer;
+}
+
+std::optional<QString> ScriptedOperator::InputBox(const QString& prompt, const QString&,
+                                                  const QString&) {
+    ADD_FAILURE() << "An input box too many: " << prompt.toStdString();
+    return {};
+}
+
+void ScriptedOperator::Beep() {
+    ++Beeps;
+}
+
+void ScriptedOperator::ShowBusy(bool busy) {
+    BusyChanges.push_back(busy);
+}
