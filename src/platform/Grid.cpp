@@ -11,7 +11,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double rowHeights = 1.9;
-constexpr double columnGap = 0.3;
 constexpr double widestColumn = 20;
 
 } // namespace
@@ -48,9 +47,8 @@ void Grid::SetEmptyHint(const QString& text) {
 
 void Grid::FitColumns() {
     for (int column = 0; column < grid.Columns(); ++column) {
-        const int width = qMax(sizeHintForColumn(column),
-                               horizontalHeader()->sectionSizeHint(column)) +
-                          Em(columnGap);
+        const int width =
+            qMax(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
         setColumnWidth(column, qMin(width, Em(widestColumn)));
     }
 }

@@ -48,9 +48,13 @@ void ScheduleBoard::SetCell(int row, ScheduleColumn column, const QString& text)
     fgSchedule.SetText(row, int(column), text);
 }
 
-void ScheduleBoard::Initform() {
+void ScheduleBoard::Initform(const QString& firstVehicle) {
     lstWorkSchedule.setStringList({});
     fgSchedule.SetRows(1);
+    QDate today = clock.Today();
+    ChangeDate(calendar.NextAvailableWorkDay(today));
+    if (!firstVehicle.isEmpty())
+        ChooseVehicle(firstVehicle);
     fraSlip = {};
     fraSlip.lblTotal = ZeroAmount();
     fraSlip.lblCharge = ZeroAmount();

@@ -55,8 +55,9 @@ public:
 
     QString Cell(int row, ScheduleColumn column) const;
 
-    /// Empties the board and sets what the settings give. The date and vehicle come after it.
-    void Initform();
+    /// Empties the board, goes to the next work day and the first vehicle (none when empty), and
+    /// sets what the settings give. Writes the invoice number back.
+    void Initform(const QString& firstVehicle);
     /// A date before today becomes today, and any date the next available work day.
     void ChangeDate(QDate date);
     void ChooseVehicle(const QString& vehicle);

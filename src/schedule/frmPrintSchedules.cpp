@@ -1,6 +1,7 @@
 #include "schedule/frmPrintSchedules.h"
 
 #include "platform/DatePicker.h"
+#include "platform/ElidedLabel.h"
 #include "platform/Grid.h"
 #include "platform/Theme.h"
 #include "platform/UpDown.h"
@@ -18,6 +19,7 @@
 #include <QListView>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSignalBlocker>
 
 using namespace Qt::StringLiterals;
 
@@ -210,8 +212,7 @@ QWidget* frmPrintSchedules::MakeScheduleGrid() {
 }
 
 QLabel* frmPrintSchedules::MakeCaption(const QString& name) {
-    auto* label = Named(new QLabel, name);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* label = Named(new ElidedLabel, name);
     captions[name] = label;
     return label;
 }
@@ -231,12 +232,13 @@ QWidget* frmPrintSchedules::MakeSlipPanel() {
     contents->setSpacing(cardGap);
     contents->addWidget(MakeSlipAddresses());
     contents->addWidget(fgItems, 1);
-    auto* foot = new QHBoxLayout;
-    foot->addWidget(MakeSlipAmounts());
-    foot->addStretch(1);
-    foot->addWidget(MakeButton(CloseSlip, u"Close Window without Updating Slip"_s));
+    auto* head = new QHBoxLayout;
+    head->addWidget(fraSlip->Heading());
+    head->addStretch(1);
+    head->addWidget(MakeButton(CloseSlip, u"Close Window without Updating Slip"_s));
+    fraSlip->Rows()->addLayout(head);
     fraSlip->Rows()->addLayout(contents);
-    fraSlip->Rows()->addLayout(foot);
+    fraSlip->Rows()->addWidget(MakeSlipAmounts(), 0, Qt::AlignLeft);
     fraSlip->hide();
     return fraSlip;
 }
@@ -249,14 +251,19 @@ QWidget* frmPrintSchedules::MakeSlipAddresses() {
     rows->setContentsMargins({});
     rows->setHorizontalSpacing(cardGap);
     rows->setVerticalSpacing(2);
+    const auto addHeading = [rows](const QString& text, int row) {
+        rows->addWidget(SoftLabel(text), row, 0, Qt::AlignRight | Qt::AlignVCenter);
+    };
+    addHeading(u"Account"_s, 0);
     rows->addWidget(MakeCaption(u"lblAcctNo"_s), 0, 1);
     rows->addWidget(MakeCaption(u"lblTime"_s), 0, 2);
+    rows->addWidget(SoftLabel(u"Sold To"_s), 1, 1);
+    rows->addWidget(SoftLabel(u"Ship To"_s), 1, 2);
     for (int i = 0; i < addressLines; ++i) {
-        auto* heading = SoftLabel(headings[i]);
-        heading->setAlignment(Qt::AlignRight);
-        rows->addWidget(heading, i + 1, 0);
-        rows->addWidget(MakeCaption(Indexed(u"lblCustomer"_s, i)), i + 1, 1);
-        rows->addWidget(MakeCaption(Indexed(u"txtShipto"_s, i)), i + 1, 2);
+        const int row = i + 2;
+        addHeading(headings[i], row);
+        rows->addWidget(MakeCaption(Indexed(u"lblCustomer"_s, i)), row, 1);
+        rows->addWidget(MakeCaption(Indexed(u"txtShipto"_s, i)), row, 2);
     }
     rows->setColumnStretch(1, 1);
     rows->setColumnStretch(2, 1);
@@ -315,14 +322,13 @@ void frmPrintSchedules::Activate() {
 }
 
 void frmPrintSchedules::Initform() {
-    board.Initform();
-    QDate today = office.machine.clock.Today();
-    DTPicker1_Change(office.calendar.NextAvailableWorkDay(today));
     const QModelIndex first = office.fleet.Names.index(0);
-    if (first.isValid()) {
+    board.Initform(first.data().toString());
+    {
+        const QSignalBlocker chosen(lstVehicles->selectionModel());
         lstVehicles->setCurrentIndex(first);
-        lstVehicles_Click();
     }
+    ShowBoard();
     cmdPrint[ToggleSlip]->setEnabled(false);
     ShowTaxOptions();
     ckPopulated->setChecked(office.settings.ckPopulateInvoices == 1);

@@ -102,37 +102,47 @@ TEST_F(ScheduleBoardTest, MarkIsABlankAndTheCharacterWithCode171) {
 
 TEST_F(ScheduleBoardTest, NothingIsWrittenBeforeTheScreenIsBroughtUp) {
     EXPECT_FALSE(folder.Has(u"NXInvoiceNo.txt"_s));
-    board.Initform();
+    board.Initform({});
     EXPECT_EQ(folder.Read(u"NXInvoiceNo.txt"_s), QByteArray("20260001\r\n"));
 }
 
-TEST_F(ScheduleBoardTest, InitformEmptiesTheWorkScheduleAndCutsTheGridToItsHeading) {
+TEST_F(ScheduleBoardTest, InitformEmptiesTheWorkScheduleAndGoesToTheNextWorkDayAndFirstVehicle) {
     StoreSlip({.number = u"1"_s});
+    StoreSlip({.number = u"2"_s, .customer = u"Hill School"_s, .vehicle = u"Tanker"_s});
     OpenBoard();
     board.SelectAll();
-    board.Initform();
+    clock.Date = {2026, 3, 14};
+    board.Initform(u"Tanker"_s);
     EXPECT_EQ(board.lstWorkSchedule.rowCount(), 0);
-    EXPECT_EQ(board.fgSchedule.Rows(), 1);
+    EXPECT_EQ(board.DTPicker1, QDate(2026, 3, 16));
+    EXPECT_EQ(board.lstVehicles, u"Tanker"_s);
+    EXPECT_EQ(Column(ScheduleColumn::Customer), QStringList{u"Hill School"_s});
+}
+
+TEST_F(ScheduleBoardTest, InitformStoppedByABrokenHolidayListWritesNoInvoiceNumber) {
+    folder.Write(u"Holidays.txt"_s, "never\r\n");
+    EXPECT_EQ(FailureOf([&] { board.Initform({}); }).Kind(), FailureKind::TypeMismatch);
+    EXPECT_FALSE(folder.Has(u"NXInvoiceNo.txt"_s));
 }
 
 TEST_F(ScheduleBoardTest, InitformShowsTheNextInvoiceNumber) {
     folder.Write(u"NXInvoiceNo.txt"_s, "20260042\r\n");
-    board.Initform();
+    board.Initform({});
     EXPECT_EQ(board.fraSlip.lblInvoice, u"20260042"_s);
 }
 
 TEST_F(ScheduleBoardTest, InvoiceNumberDeletedIsStartedAgainByTheNextInitform) {
-    board.Initform();
+    board.Initform({});
     folder.Remove(u"NXInvoiceNo.txt"_s);
     clock.Date = {2027, 1, 4};
-    board.Initform();
+    board.Initform({});
     EXPECT_EQ(board.fraSlip.lblInvoice, u"20270001"_s);
     EXPECT_EQ(folder.Read(u"NXInvoiceNo.txt"_s), QByteArray("20270001\r\n"));
 }
 
 TEST_F(ScheduleBoardTest, InitformSetsTheTaxOptionsFromTheSettings) {
     settings.ckApply1stTax = 1;
-    board.Initform();
+    board.Initform({});
     EXPECT_TRUE(board.optTax.IsOn(TaxOption::PrimaryOnly));
     EXPECT_FALSE(board.optTax.IsOn(TaxOption::SecondaryOnly));
     EXPECT_FALSE(board.optTax.IsOn(TaxOption::Both));
@@ -142,17 +152,17 @@ TEST_F(ScheduleBoardTest, InitformSetsTheTaxOptionsFromTheSettings) {
 TEST_F(ScheduleBoardTest, InitformTakesTheChargeOfTheSettingsWhenItIsTicked) {
     settings.txtDeliveryCharge = u"$7.50"_s;
     settings.ckDeliveryCharge = 1;
-    board.Initform();
+    board.Initform({});
     EXPECT_EQ(board.txtDeliveryCharge, u"$7.50"_s);
     settings.ckDeliveryCharge = 0;
-    board.Initform();
+    board.Initform({});
     EXPECT_EQ(board.txtDeliveryCharge, u"$0.00"_s);
 }
 
 TEST_F(ScheduleBoardTest, InitformSetsBothTaxesToZero) {
     board.fraSlip.lblTax1 = u"$1.00"_s;
     board.fraSlip.lblTax2 = u"$2.00"_s;
-    board.Initform();
+    board.Initform({});
     EXPECT_EQ(board.fraSlip.lblTax1, u"$0.00"_s);
     EXPECT_EQ(board.fraSlip.lblTax2, u"$0.00"_s);
 }
@@ -550,7 +560,6 @@ TEST_F(ScheduleBoardTest, ChargeBeforeAnySlipWasLookedAtIsEntered) {
 }
 
 TEST_F(ScheduleBoardTest, ChargeWithoutADataRowDoesNothing) {
-    board.Initform();
     board.txtDeliveryCharge = u"5"_s;
     EXPECT_EQ(board.EnterCharge(), ScheduleBoard::ChargeEntry::NoRow);
     EXPECT_EQ(board.txtDeliveryCharge, u"5"_s);
@@ -680,7 +689,6 @@ TEST_F(ScheduleBoardTest, EnterBeepsAndStillMovesWhenTheTwoAreNotNumbers) {
 }
 
 TEST_F(ScheduleBoardTest, KeysWithoutADataRowDoNothing) {
-    board.Initform();
     for (const ushort key : {ushort(8), enterKey, ushort(u'1')})
         EXPECT_EQ(board.EditCell(key), ScheduleBoard::CursorMove::None);
     EXPECT_EQ(board.fgSchedule.Text(0, 0), u"Select"_s);

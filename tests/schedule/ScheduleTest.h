@@ -68,7 +68,7 @@ protected:
     /// The board of 16 March 2026 for the Flatbed Truck, over the slips stored so far.
     void OpenBoard() {
         office.slips.LoadSlips(false);
-        board.Initform();
+        board.Initform({});
         board.ChangeDate({2026, 3, 16});
         board.ChooseVehicle(QStringLiteral("Flatbed Truck"));
     }

@@ -4,11 +4,28 @@
 
 #include <QStandardPaths>
 
+namespace {
+
+bool hasUnwoundTheToolkit = false;
+
 class TakenFailures : public ScreenTest {
 public:
-    static void Take(const RuntimeFailure& failure) { Failures().push_back(failure); }
+    static void Take(const RuntimeFailure& failure) {
+        hasUnwoundTheToolkit = true;
+        Failures().push_back(failure);
+    }
     void TestBody() override {}
 };
+
+} // namespace
+
+/// The leak check asks this at the end of the process. The toolkit is built without unwinding, so
+/// its own locals leak when a failure passes through its event delivery; the program ends at once
+/// then, and only a test goes on.
+extern "C" int __lsan_is_turned_off();
+extern "C" int __lsan_is_turned_off() {
+    return hasUnwoundTheToolkit ? 1 : 0;
+}
 
 int main(int argumentCount, char** arguments) {
     testing::InitGoogleTest(&argumentCount, arguments);

@@ -1,0 +1,25 @@
+// What the toolkit asks of any program: one window of the program's size with one label. It ends
+// when the window is painted.
+
+#include "Probe.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+int main(int argumentCount, char** arguments) {
+    constexpr int width = 1180;
+    constexpr int height = 720;
+    const QApplication application(argumentCount, arguments);
+    const FirstPaint firstPaint(PaintedLabel(), TellPeakMemoryAndEnd);
+    QWidget window;
+    window.resize(width, height);
+    QVBoxLayout rows(&window);
+    QLabel label(u"Delivery"_s);
+    label.setObjectName(PaintedLabel());
+    rows.addWidget(&label);
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,76 @@
+// The program as main.cpp starts it, on the current folder. It ends when the title screen is
+// painted, or with the argument "loaded" when the start-up sequence has run to its end as well.
+
+#include "Probe.h"
+#include "platform/DesktopBrowser.h"
+#include "platform/DesktopOperator.h"
+#include "platform/FolderLock.h"
+#include "platform/GuardedApplication.h"
+#include "platform/PagePrinter.h"
+#include "platform/Theme.h"
+#include "startup/Office.h"
+#include "startup/Screens.h"
+#include "startup/StartUp.h"
+
+#include <QDir>
+#include <QTimer>
+
+#include <csignal>
+#include <cstdlib>
+#include <memory>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The same parts as in main.cpp.
+struct Run {
+    SystemClock clock;
+    DesktopOperator user;
+    DesktopBrowser browser;
+    PagePrinter printer{[](const QString&) {}};
+    std::unique_ptr<FolderLock> lock;
+    std::unique_ptr<Office> office;
+    std::unique_ptr<Screens> screens;
+};
+
+void Start(Run& run) {
+    const QString dataFolder = QDir::currentPath();
+    run.lock = std::make_unique<FolderLock>(dataFolder);
+    if (!run.lock->IsHeld())
+        ::_exit(EXIT_FAILURE);
+    run.office = std::make_unique<Office>(dataFolder,
+                                          Machine{run.clock, run.user, run.printer, run.browser});
+    run.screens = std::make_unique<Screens>(*run.office);
+    StartUp(*run.office, *run.screens);
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    GuardedApplication application(argumentCount, arguments);
+    QApplication::setApplicationName(u"tessel-delivery"_s);
+    QApplication::setApplicationVersion(u"0"_s);
+    QApplication::setQuitOnLastWindowClosed(false);
+    Theme::Apply(application);
+
+    bool isPainted = false;
+    bool isDone = !QApplication::arguments().contains("loaded"_L1);
+    const auto endWhenBoth = [&] {
+        if (isPainted && isDone)
+            TellPeakMemoryAndEnd();
+    };
+    const FirstPaint firstPaint(PaintedLabel(), [&] {
+        isPainted = true;
+        endWhenBoth();
+    });
+    Run run;
+    QTimer::singleShot(0, qApp, [&] {
+        Start(run);
+        isDone = true;
+        endWhenBoth();
+    });
+    return QApplication::exec();
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "platform/PagePrinter.h"
+#include "startup/Office.h"
+
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <chrono>
+#include <optional>
+
+/// A fresh folder on the disk: the temporary folder can be memory.
+class BenchFolder {
+public:
+    QString Path() const { return directory.path(); }
+
+private:
+    QTemporaryDir directory{QStringLiteral("/var/tmp/tessel-bench-XXXXXX")};
+};
+
+class FixedClock : public Clock {
+public:
+    QDate Today() const override { return {2026, 3, 9}; }
+};
+
+/// Answers No to every question, takes messages in silence, and knows when the first came.
+class NoSayer : public Operator {
+public:
+    std::optional<std::chrono::steady_clock::time_point> FirstMessage;
+
+    Answer MsgBox(const QString& text, Buttons buttons, const QString& title) override;
+    std::optional<QString> InputBox(const QString&, const QString&, const QString&) override {
+        return {};
+    }
+    void Beep() override {}
+    void ShowBusy(bool) override {}
+};
+
+class NoBrowser : public WebBrowser {
+public:
+    void Open(const QString&) override {}
+};
+
+/// All rule modules on a data folder with its folders made, on Monday, 9 March 2026, under United
+/// States formats.
+struct BenchOffice {
+    explicit BenchOffice(const QString& dataFolder);
+
+    FixedClock clock;
+    NoSayer user;
+    NoBrowser browser;
+    PagePrinter printer{[](const QString&) {}};
+    Office rules;
+};
+
+/// A slip as the benchmarks need it: what is not given is plain and the same for all.
+struct BenchSlip {
+    QString number;
+    QString date = QStringLiteral("3/16/2026");
+    QString recurring = QStringLiteral("False");
+    QString frequency = {};
+    QString vehicle = QStringLiteral("Flatbed Truck");
+    QString customer = QStringLiteral("Corner Grocery");
+};
+
+void WriteHeader(Office& office, const BenchSlip& slip);
+void WriteItems(Office& office, const BenchSlip& slip, int items);
+
+/// "20260001" for 1, and so on.
+QString SlipNumber(int number);

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QLabel>
+
+/// A label that gives way when there is little room: it cuts its text short with an ellipsis, and
+/// shows the whole of it as its tool tip.
+class ElidedLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    using QLabel::QLabel;
+
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
