@@ -1,5 +1,8 @@
 #include "platform/WindowLayout.h"
 
+#include "platform/Theme.h"
+
+#include <QScreen>
 #include <QSettings>
 #include <QWidget>
 
@@ -7,8 +10,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int defaultWidth = 1180;
-constexpr int defaultHeight = 720;
+constexpr double defaultWidth = 82;
+constexpr double defaultHeight = 48;
+/// For the window manager's frame and a panel of the desktop.
+constexpr int desktopMargin = 60;
+
+/// The desktop may have shrunk since the layout was kept.
+void FitToDesktop(QWidget& window) {
+    const QRect desktop = window.screen()->availableGeometry();
+    window.resize(window.size().boundedTo(desktop.size() - QSize(desktopMargin, desktopMargin)));
+    if (!desktop.contains(window.frameGeometry()))
+        window.move(desktop.center() - window.rect().center());
+}
 
 /// The user's own file, outside the data folder.
 class Layouts : public QSettings {
@@ -26,7 +39,8 @@ QString KeyOf(const QWidget& window) {
 
 void WindowLayout::Restore(QWidget& window) {
     if (!window.restoreGeometry(Layouts().value(KeyOf(window)).toByteArray()))
-        window.resize(defaultWidth, defaultHeight);
+        window.resize(Em(defaultWidth), Em(defaultHeight));
+    FitToDesktop(window);
 }
 
 void WindowLayout::Save(const QWidget& window) {

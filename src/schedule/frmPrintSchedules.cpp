@@ -411,6 +411,11 @@ void frmPrintSchedules::fgSchedule_Click(int row, int column) {
 }
 
 void frmPrintSchedules::fgSchedule_KeyPress(ushort key) {
+    if (key == u' ') {
+        // The keyboard's way to mark a row.
+        fgSchedule_Click(board.fgSchedule.CurrentRow(), int(ScheduleColumn::Select));
+        return;
+    }
     const auto move = board.EditCell(key);
     if (move == ScheduleBoard::CursorMove::None)
         return;

@@ -363,6 +363,18 @@ TEST_F(PrintSchedulesScreen, UntickedScheduleDoesNotPrint) {
     EXPECT_TRUE(printer.Texts.empty());
 }
 
+TEST_F(PrintSchedulesScreen, SpaceMarksTheCurrentRow) {
+    WriteBusiness();
+    Open();
+    ClickCell(grid, 1, customerColumn);
+    Press(grid, Qt::Key_Down);
+    Press(grid, Qt::Key_Space);
+    EXPECT_EQ(Cell(2, selectColumn), u" \u00ab"_s);
+    EXPECT_TRUE(Button(12)->isEnabled());
+    Press(grid, Qt::Key_Space);
+    EXPECT_EQ(Cell(2, selectColumn), QString());
+}
+
 TEST_F(PrintSchedulesScreen, KeysInTheGridEditTheCellAsItStands) {
     WriteBusiness();
     Open();

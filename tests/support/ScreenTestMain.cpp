@@ -19,9 +19,9 @@ public:
 
 } // namespace
 
-/// The leak check asks this at the end of the process. The toolkit is built without unwinding, so
-/// its own locals leak when a failure passes through its event delivery; the program ends at once
-/// then, and only a test goes on.
+/// The leak check asks this at the end of the process. The toolkit's windows are built without
+/// exceptions, so what they hold at the moment leaks when a failure passes through their event
+/// delivery. The program ends at once then; only a test goes on.
 extern "C" int __lsan_is_turned_off();
 extern "C" int __lsan_is_turned_off() {
     return hasUnwoundTheToolkit ? 1 : 0;
