@@ -32,7 +32,7 @@ void WriteBoardSlips(Office& office, int slips, int onDay) {
 
 void ShowDay(Office& office) {
     office.slips.LoadSlips(false);
-    office.board.Initform();
+    office.board.Initform(u"Flatbed Truck"_s);
     office.board.ChangeDate(deliveryDay);
     office.board.ChooseVehicle(u"Flatbed Truck"_s);
 }

@@ -2,6 +2,10 @@
 #include "support/Comparison.h"
 #include "support/PlainFiles.h"
 
+#include <algorithm>
+#include <chrono>
+#include <string>
+#include <utility>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -38,51 +42,75 @@ BENCHMARK(LoadSlips)->UseManualTime()->Iterations(21)->Unit(benchmark::kMillisec
 
 namespace {
 
-constexpr int pastSlips = 1000;
-
-void WritePastSlips(Office& office) {
-    for (int number = 1; number <= pastSlips; ++number)
-        WriteHeader(office, {.number = SlipNumber(number),
-                             .date = u"3/4/2026"_s,
-                             .recurring = u"True"_s,
-                             .frequency = u"0000001"_s});
-}
-
-/// From the first question to the end: what comes before it is the building of the table.
-double MovePastSlips(BenchOffice& office) {
-    WritePastSlips(office.rules);
-    office.user.FirstMessage.reset();
-    office.rules.slips.LoadSlips(true);
-    return SecondsSince(office.user.FirstMessage.value());
-}
-
-/// Each slip as it is written anew: read, written under another name, and put in its place.
-double RewritePastSlips(BenchOffice& office, const PlainFolder& plain) {
-    WritePastSlips(office.rules);
-    office.rules.slips.LoadSlips(false);
-    const std::string temporary = deliveries + "/TempFile.txt";
-    std::vector<std::string> names;
-    for (int number = 1; number <= pastSlips; ++number)
-        names.push_back(deliveries + '/' + SlipNumber(number).toStdString() + ".txt");
-    return SecondsOf([&] {
-        for (const std::string& name : names) {
-            plain.Write(temporary, plain.Read(name));
-            plain.Remove(name);
-            plain.Rename(temporary, name);
+/// Weekly slips of last Monday, which a pass moves on. What is measured and its floor take turns on
+/// the same files, since what a new file costs hangs on where the disk has put the old ones.
+class PastSlips {
+public:
+    PastSlips() {
+        for (int number = 1; number <= count; ++number) {
+            const QString slipNo = SlipNumber(number);
+            WriteHeader(office.rules, {.number = slipNo,
+                                       .date = u"3/2/2026"_s,
+                                       .recurring = u"True"_s,
+                                       .frequency = u"0000001"_s});
+            const std::string name = deliveries + '/' + slipNo.toStdString() + ".txt";
+            contents.emplace_back(name, plain.Read(name));
         }
-    });
-}
+    }
+
+    /// From the first question to the end: what comes before it is the building of the table.
+    double MoveOn() {
+        PutBack();
+        office.user.FirstMessage.reset();
+        office.rules.slips.LoadSlips(true);
+        return SecondsSince(office.user.FirstMessage.value());
+    }
+
+    /// Each slip read, written under another name, and put in its place.
+    double Rewrite() {
+        PutBack();
+        office.rules.slips.LoadSlips(false);
+        const std::string temporary = deliveries + "/TempFile.txt";
+        return SecondsOf([&] {
+            for (const auto& [name, bytes] : contents) {
+                plain.Write(temporary, plain.Read(name));
+                plain.Remove(name);
+                plain.Rename(temporary, name);
+            }
+        });
+    }
+
+    bool AreAllMoved() const {
+        const auto isMoved = [this](const auto& content) {
+            return plain.Read(content.first).find("\r\n3/9/2026\r\n") != std::string::npos;
+        };
+        return std::all_of(contents.begin(), contents.end(), isMoved);
+    }
+
+private:
+    void PutBack() const {
+        for (const auto& [name, bytes] : contents)
+            plain.Write(name, bytes);
+    }
+
+    static constexpr int count = 1000;
+    BenchFolder folder;
+    BenchOffice office{folder.Path()};
+    PlainFolder plain{folder.Path().toStdString()};
+    std::vector<std::pair<std::string, std::string>> contents;
+};
 
 } // namespace
 
 static void PastDatePass(benchmark::State& state) {
-    const BenchFolder folder;
-    const BenchFolder twinFolder;
-    BenchOffice office(folder.Path());
-    BenchOffice twin(twinFolder.Path());
-    const PlainFolder plain(twinFolder.Path().toStdString());
+    PastSlips slips;
+    slips.MoveOn();
+    if (!slips.AreAllMoved()) {
+        state.SkipWithError("The pass has left slips in the past.");
+        return;
+    }
     CompareWithFloor(
         state, {"Moving 1,000 past slips on against rewriting their files", 2.0},
-        [&] { return MovePastSlips(office); }, [&] { return RewritePastSlips(twin, plain); });
+        [&] { return slips.MoveOn(); }, [&] { return slips.Rewrite(); });
 }
 BENCHMARK(PastDatePass)->UseManualTime()->Iterations(21)->Unit(benchmark::kMillisecond);

@@ -15,6 +15,7 @@ int main(int argumentCount, char** arguments) {
     qputenv("LC_ALL", "C.UTF-8");
     qputenv("HOME", home.path().toUtf8());
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
+    qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
     qputenv("CUPS_SERVER", "/nonexistent/cups.sock");
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argumentCount, arguments);

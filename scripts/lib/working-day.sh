@@ -14,6 +14,7 @@ dayHome=''
 displayProcess=''
 managerProcess=''
 programProcess=''
+programStatus=''
 titleWindow=''
 
 StopDay() {
@@ -64,20 +65,23 @@ StartDisplay() {
     Fail "The virtual display did not start: $(tail -n 1 "$dayHome/display.log")"
 }
 
+# StartProgram PROGRAM BUSINESS [WORD...]
 # A home of its own, whose documents are the day's folder, and no printer: so every print becomes
-# a PDF in the day's folder. Nothing opens it there.
+# a PDF in the day's folder. Nothing opens it there. The words go before the program as env takes
+# them: variables that differ from those here, then a command to start it through.
 StartProgram() {
     local program=$1 business=$2
+    shift 2
     mkdir -p "$dayHome/config" "$dayHome/runtime" "$dayHome/bin"
-    ln -s "$(type -P true)" "$dayHome/bin/xdg-open"
+    ln -sf "$(type -P true)" "$dayHome/bin/xdg-open"
     chmod 700 "$dayHome/runtime"
     printf 'XDG_DOCUMENTS_DIR="%s"\n' "$dayFolder" >"$dayHome/config/user-dirs.dirs"
     (
         cd "$business" || exit
         exec env PATH="$dayHome/bin:$PATH" HOME="$dayHome" XDG_CONFIG_HOME="$dayHome/config" \
             XDG_RUNTIME_DIR="$dayHome/runtime" CUPS_SERVER="$dayHome/no-printer" \
-            QT_QPA_PLATFORM=xcb LC_ALL=en_US.UTF-8 "$program"
-    ) >"$dayFolder/program.log" 2>&1 </dev/null &
+            QT_QPA_PLATFORM=xcb LC_ALL=en_US.UTF-8 "$@" "$program"
+    ) >>"$dayFolder/program.log" 2>&1 </dev/null &
     programProcess=$!
 }
 
@@ -153,6 +157,16 @@ TakePicture() {
     Step "  $dayFolder/$1.png"
 }
 
+# WaitUntilGone WINDOW TITLE
+WaitUntilGone() {
+    local i
+    for ((i = 0; i < 50; i++)); do
+        [[ " $(Windows | tr '\n' ' ') " == *" $1 "* ]] || return 0
+        sleep 0.1
+    done
+    FailDay "the message \"$2\" did not take its answer."
+}
+
 # Answers a message box as a careful operator does who only looks around: recurring slips are kept,
 # and nothing is posted.
 AnswerMessage() {
@@ -165,12 +179,7 @@ AnswerMessage() {
         ;;
     *) FailDay "an unexpected message \"$title\" came up." ;;
     esac
-    local i
-    for ((i = 0; i < 50; i++)); do
-        [[ " $(Windows | tr '\n' ' ') " == *" $window "* ]] || return 0
-        sleep 0.1
-    done
-    FailDay "the message \"$title\" did not take its answer."
+    WaitUntilGone "$window" "$title"
 }
 
 # Answers messages until none has come for a second; the first one is worth a picture, which gets
@@ -231,28 +240,39 @@ WaitForPdf() {
     FailDay "nothing was printed."
 }
 
-# Through the menu bar: Alt opens it at Files, whose last item is Exit.
-LeaveProgram() {
-    local window=$1 status=0 i
-    Press "$window" Alt_L Down Up Return
+# Waits until the program has ended; its status is in programStatus afterwards.
+WaitForEnd() {
+    local i
     for ((i = 0; i < 5 * secondsToWait; i++)); do
         ProgramRuns || break
         sleep 0.2
     done
     ! ProgramRuns || FailDay "the program did not end."
-    wait "$programProcess" || status=$?
+    programStatus=0
+    wait "$programProcess" || programStatus=$?
     programProcess=''
-    [[ $status -eq 0 ]] || FailDay "the program ended with status $status."
+}
+
+# Through the menu bar: Alt opens it at Files, whose last item is Exit.
+LeaveProgram() {
+    Press "$1" Alt_L Down Up Return
+    WaitForEnd
+    [[ $programStatus -eq 0 ]] || FailDay "the program ended with status $programStatus."
+}
+
+# BeginDay FOLDER: a display of one's own for what follows; FOLDER takes pictures and messages.
+BeginDay() {
+    dayFolder=$1
+    dayHome=$(mktemp -d)
+    trap StopDay EXIT
+    StartDisplay
+    MoveMouseAway
 }
 
 # WorkingDay PROGRAM BUSINESS FOLDER: the pictures and the PDF of the day are in FOLDER afterwards.
 WorkingDay() {
     local program=$1 business=$2
-    dayFolder=$3
-    dayHome=$(mktemp -d)
-    trap StopDay EXIT
-    StartDisplay
-    MoveMouseAway
+    BeginDay "$3"
 
     Step "Starting the program."
     StartProgram "$program" "$business"

@@ -1,17 +1,112 @@
 #include "platform/DatePicker.h"
 
 #include "platform/RegionalFormats.h"
+#include "platform/Theme.h"
 
-#include <QSignalBlocker>
+#include <QAction>
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QTextCharFormat>
+#include <QVBoxLayout>
 
-DatePicker::DatePicker(QWidget* parent) : QDateEdit(parent) {
-    setCalendarPopup(true);
-    setKeyboardTracking(false);
-    setDisplayFormat(RegionalFormats::Current().DateForm());
-    connect(this, &QDateEdit::dateChanged, this, &DatePicker::Changed);
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int iconSize = 28;
+constexpr double calendarWidth = 18;
+constexpr double calendarHeight = 14;
+
+QPoint WithinDesktop(const QWidget& field, QSize size) {
+    const QRect desktop = field.screen()->availableGeometry();
+    QPoint place = field.mapToGlobal(QPoint(0, field.height()));
+    if (place.y() + size.height() > desktop.bottom())
+        place.setY(field.mapToGlobal(QPoint()).y() - size.height());
+    place.setX(qBound(desktop.left(), place.x(), desktop.right() - size.width()));
+    return place;
 }
 
-void DatePicker::SetDate(QDate date) {
-    const QSignalBlocker silence(this);
-    setDate(date);
+QCalendarWidget* MakeCalendar(QDate date) {
+    auto* calendar = new QCalendarWidget;
+    calendar->setObjectName(u"calendar"_s);
+    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    calendar->setSelectedDate(date);
+    // The toolkit's own size leaves no room for the months.
+    calendar->setMinimumSize(Em(calendarWidth), Em(calendarHeight));
+    // Which days are work days is the business's own matter; the toolkit's red Sunday is not.
+    QTextCharFormat plain;
+    plain.setForeground(Theme::Current().text);
+    for (const auto day : {Qt::Saturday, Qt::Sunday})
+        calendar->setWeekdayTextFormat(day, plain);
+    return calendar;
+}
+
+} // namespace
+
+DatePicker::DatePicker(QWidget* parent) : QLineEdit(parent) {
+    const QIcon icon(LineIcon(u"calendar"_s, Theme::Current().softText, {iconSize, iconSize},
+                              devicePixelRatioF()));
+    QAction* open = addAction(icon, QLineEdit::TrailingPosition);
+    open->setObjectName(u"openCalendar"_s);
+    open->setToolTip(u"Pick from a calendar (F4)"_s);
+    connect(open, &QAction::triggered, this, &DatePicker::OpenCalendar);
+    connect(this, &QLineEdit::editingFinished, this, &DatePicker::TakeTyped);
+}
+
+void DatePicker::SetDate(QDate newDate) {
+    date = newDate;
+    setText(RegionalFormats::Current().ShortDate(date));
+}
+
+void DatePicker::Enter(QDate newDate) {
+    SetDate(newDate);
+    selectAll();
+    Q_EMIT Changed(newDate);
+}
+
+void DatePicker::TakeTyped() {
+    const auto typed = RegionalFormats::Current().ParseDate(text());
+    if (!typed) {
+        QApplication::beep();
+        SetDate(date);
+    } else if (*typed != date) {
+        Enter(*typed);
+    }
+}
+
+void DatePicker::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Up:
+        Enter(date.addDays(1));
+        break;
+    case Qt::Key_Down:
+        Enter(date.addDays(-1));
+        break;
+    case Qt::Key_F4:
+        OpenCalendar();
+        break;
+    default:
+        QLineEdit::keyPressEvent(event);
+    }
+}
+
+void DatePicker::OpenCalendar() {
+    auto* popup = new QFrame(this, Qt::Popup);
+    popup->setAttribute(Qt::WA_DeleteOnClose);
+    popup->setProperty("card", true);
+    auto* calendar = MakeCalendar(date);
+    auto* rows = new QVBoxLayout(popup);
+    rows->setContentsMargins(1, 1, 1, 1);
+    rows->addWidget(calendar);
+    const auto pick = [this, popup](QDate picked) {
+        popup->close();
+        Enter(picked);
+    };
+    connect(calendar, &QCalendarWidget::clicked, this, pick);
+    connect(calendar, &QCalendarWidget::activated, this, pick);
+    popup->move(WithinDesktop(*this, popup->sizeHint()));
+    popup->show();
+    calendar->setFocus();
 }

@@ -1,18 +1,31 @@
 #pragma once
 
-#include <QDateEdit>
+#include <QDate>
+#include <QLineEdit>
 
-/// A date field with a calendar to pick from, in the regional short date form. It tells of a date
-/// once the user has finished entering it, and not while a program sets it.
-class DatePicker : public QDateEdit {
+/// A date field in the regional short date form, to type in or to pick from a calendar; Up and Down
+/// step it by a day. It tells of a date once the user has finished entering it, and not while a
+/// program sets it. A text that is no date is taken back with a beep.
+class DatePicker : public QLineEdit {
     Q_OBJECT
 
 public:
     explicit DatePicker(QWidget* parent = nullptr);
 
+    QDate Date() const { return date; }
     /// Shows a date without telling of it.
-    void SetDate(QDate date);
+    void SetDate(QDate newDate);
 
 Q_SIGNALS:
     void Changed(QDate date);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void TakeTyped();
+    void Enter(QDate newDate);
+    void OpenCalendar();
+
+    QDate date;
 };

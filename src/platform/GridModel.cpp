@@ -45,7 +45,7 @@ void GridModel::ClearGrid() {
 }
 
 void GridModel::RemoveRow(int row) {
-    CheckCell(row, 0);
+    CheckCell(row > 0 ? row : Rows(), 0);
     const Refill refill(*this);
     cells.erase(cells.begin() + row);
     ClampCurrent();

@@ -26,6 +26,7 @@ public:
     void SetRows(int rows);
     /// Cuts the grid to the heading row and one data row, and blanks that.
     void ClearGrid();
+    /// A data row; the heading can't be removed.
     void RemoveRow(int row);
 
     /// A cell outside the grid is a failure of kind Subscript.

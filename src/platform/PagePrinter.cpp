@@ -74,7 +74,7 @@ QString FreePath(const QString& folder, const QString& title) {
     const QString name = folder + u'/' + QString(title).replace(u'/', u'-');
     QString path = name + u".pdf"_s;
     for (int number = 2; QFileInfo::exists(path); ++number)
-        path = u"%1 (%2).pdf"_s.arg(name).arg(number);
+        path = name + u" ("_s + QString::number(number) + u").pdf"_s;
     return path;
 }
 
@@ -103,7 +103,7 @@ QString StoreDocument(const QString& title, const QByteArray& pdf) {
     std::filesystem::create_directories(QFile::encodeName(folder).toStdString(), error);
     if (error)
         throw Failed(u"Making the folder "_s + folder, QString::fromStdString(error.message()));
-    const QString path = FreePath(folder, title);
+    QString path = FreePath(folder, title);
     const QString operation = u"Writing the document "_s + path;
     QTemporaryFile file(folder + u"/.XXXXXX.pdf"_s);
     if (!file.open())

@@ -79,6 +79,44 @@ qsizetype LastDigit(const QString& text) {
     return -1;
 }
 
+bool IsAsciiBlank(QChar character) {
+    return character == u' ' || (character >= u'\t' && character <= u'\r');
+}
+
+/// What can stand between the parts of a date: anything but letters, digits and the underline.
+bool IsDateMark(QChar character) {
+    const bool isLetter =
+        (character >= u'a' && character <= u'z') || (character >= u'A' && character <= u'Z');
+    return !isLetter && !IsAsciiDigit(character) && character != u'_';
+}
+
+/// Takes the characters that meet a condition off the front of a text.
+QStringView TakeWhile(QStringView& text, bool (*meets)(QChar)) {
+    const auto* end = std::find_if_not(text.begin(), text.end(), meets);
+    const QStringView taken = text.first(end - text.begin());
+    text = text.sliced(taken.size());
+    return taken;
+}
+
+/// Three runs of digits with one to three marks between them, blanks around them, and one more
+/// mark behind the last, with which the dates of some regions end. Nothing for any other text.
+std::optional<std::array<QStringView, 3>> DateParts(QStringView text) {
+    constexpr qsizetype mostMarks = 3;
+    std::array<QStringView, 3> parts;
+    TakeWhile(text, IsAsciiBlank);
+    parts[0] = TakeWhile(text, IsAsciiDigit);
+    for (size_t i = 1; i < parts.size(); ++i) {
+        const qsizetype marks = TakeWhile(text, IsDateMark).size();
+        parts[i] = TakeWhile(text, IsAsciiDigit);
+        if (marks < 1 || marks > mostMarks)
+            return {};
+    }
+    if (!text.isEmpty() && IsDateMark(text.front()))
+        text = text.sliced(1);
+    TakeWhile(text, IsAsciiBlank);
+    return text.isEmpty() ? std::optional(parts) : std::nullopt;
+}
+
 /// Takes a part off the front or the back of a text, with the blanks beside it.
 bool TakeFromEnds(QString& text, const QString& part) {
     if (text.startsWith(part))
@@ -215,21 +253,21 @@ QString RegionalFormats::ShortDate(QDate date) const {
 }
 
 std::optional<QDate> RegionalFormats::ParseDate(QStringView text) const {
-    static const QRegularExpression form(
-        u"^\\s*(\\d{1,4})\\W{1,3}?(\\d{1,2})\\W{1,3}?(\\d{1,4})\\W?\\s*$"_s);
-    const QRegularExpressionMatch match = form.match(text);
-    if (!match.hasMatch())
+    const auto parts = DateParts(text);
+    if (!parts)
         return {};
-    const QString order = match.capturedLength(1) == 4 ? u"yMd"_s : dateOrder;
-    std::array<int, 3> parts{};
-    for (int i = 0; i < 3; ++i) {
-        const QStringView digits = match.capturedView(i + 1);
-        const bool isYear = order[i] == u'y';
-        if (isYear != (digits.size() == 4) || (!isYear && digits.size() > 2))
+    const QStringView order = parts->front().size() == 4 ? u"yMd" : QStringView(dateOrder);
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    for (size_t i = 0; i < parts->size(); ++i) {
+        const QStringView digits = (*parts)[i];
+        const bool isYear = order[qsizetype(i)] == u'y';
+        if (digits.isEmpty() || isYear != (digits.size() == 4) || (!isYear && digits.size() > 2))
             return {};
-        parts[size_t("yMd"_L1.indexOf(order[i]))] = digits.toInt();
+        (isYear ? year : order[qsizetype(i)] == u'M' ? month : day) = digits.toInt();
     }
-    const QDate date(parts[0], parts[1], parts[2]);
+    const QDate date(year, month, day);
     return date.isValid() ? std::optional(date) : std::nullopt;
 }
 

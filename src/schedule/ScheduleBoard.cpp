@@ -60,8 +60,7 @@ void ScheduleBoard::Initform(const QString& firstVehicle) {
     fraSlip.lblCharge = ZeroAmount();
     fraSlip.lblInvoice = QString::number(invoiceNumber.LoadInvoiceNumber());
     SetTaxOptions(settings, optTax);
-    txtDeliveryCharge =
-        settings.ckDeliveryCharge == 1 ? settings.txtDeliveryCharge : ZeroAmount();
+    txtDeliveryCharge = settings.ckDeliveryCharge == 1 ? settings.txtDeliveryCharge : ZeroAmount();
     fraSlip.lblTax1 = ZeroAmount();
     fraSlip.lblTax2 = ZeroAmount();
 }
@@ -86,9 +85,9 @@ void ScheduleBoard::ChooseVehicle(const QString& vehicle) {
 
 bool ScheduleBoard::IsOnBoard(int entry) const {
     // The date comes first: a slip whose date is no date stops the board, whatever its vehicle.
-    const QDate date =
-        ToDate(slips.Table.Text(SlipLine::Date, entry),
-               u"the delivery date of slip "_s + slips.Table.Text(SlipLine::SlipNumber, entry));
+    const QDate date = ToDate(slips.Table.Text(SlipLine::Date, entry), [&] {
+        return u"the delivery date of slip "_s + slips.Table.Text(SlipLine::SlipNumber, entry);
+    });
     return date == DTPicker1 && slips.Table.Text(SlipLine::Vehicle, entry) == lstVehicles;
 }
 
@@ -111,9 +110,8 @@ void ScheduleBoard::LoadScheduleGrid() {
     fgSchedule.ClearGrid();
     int row = 1;
     for (int entry = 1; entry <= slips.SlipCount; ++entry) {
-        disk.OpenForInput(
+        disk.CheckOpens(
             DeliverySlipRoutines::HeaderFile(slips.Table.Text(SlipLine::SlipNumber, entry)));
-        disk.CloseAllFiles();
         if (IsOnBoard(entry))
             row = AddRow(row, entry);
     }
@@ -271,6 +269,5 @@ void ScheduleBoard::LoadSlipItems(const QString& slipNo) {
 }
 
 QString ScheduleBoard::PanelCaption() const {
-    return u"Delivery Slip "_s +
-           slips.Table.Text(SlipLine::SlipNumber, fgSchedule.CurrentRow());
+    return u"Delivery Slip "_s + slips.Table.Text(SlipLine::SlipNumber, fgSchedule.CurrentRow());
 }

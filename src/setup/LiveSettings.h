@@ -8,7 +8,7 @@
 /// This is their one live copy: a reader asks for a value at the moment of need, and a change takes
 /// effect at once, even before it is saved.
 ///
-/// The 8-bit check values are 0 unticked, 1 ticked.
+/// The check values (ck...) are 0 unticked, 1 ticked.
 struct LiveSettings {
     /// MyBusinessData.txt: name, two address lines, city, state, postal code, telephone, fax or
     /// web, tax number.
@@ -50,8 +50,8 @@ struct LiveSettings {
     QString cboTaxHeading2;
     QString cboRate1;
     QString cboRate2;
-    quint8 ckApply1stTax = 0;
-    quint8 ckApply2ndTax = 0;
+    qint16 ckApply1stTax = 0;
+    qint16 ckApply2ndTax = 0;
 
     // PrintColors.txt; colours are 0x00BBGGRR.
     qint32 BorderColor = 0;

@@ -145,8 +145,8 @@ void SettingsStore::LoadTaxSettings() {
     settings.cboTaxHeading2 = reader.Text();
     settings.cboRate1 = reader.Text();
     settings.cboRate2 = reader.Text();
-    settings.ckApply1stTax = reader.Byte();
-    settings.ckApply2ndTax = reader.Byte();
+    settings.ckApply1stTax = reader.Int16();
+    settings.ckApply2ndTax = reader.Int16();
     disk.CloseAllFiles();
 }
 

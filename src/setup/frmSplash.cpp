@@ -22,7 +22,7 @@ constexpr int progressPerTick = 10;
 constexpr int progressEnd = 100;
 constexpr double pictureWidth = 14;
 constexpr double pictureHeight = 8.2;
-constexpr double welcomeWidth = 44;
+constexpr double welcomeWidth = 38;
 
 const char* const welcomeTexts[] = {
     "It has a series of File Folders where information the program requires is stored.",
@@ -42,12 +42,12 @@ const char* const welcomeTexts[] = {
 frmSplash::frmSplash(Office& theOffice, Screens& allScreens)
     : Screen(u"frmSplash"_s, ProgramTitle()), office(theOffice),
       screens(allScreens) {
-    auto* rows = new QVBoxLayout(Body());
-    rows->addStretch(1);
-    rows->addWidget(MakeTitle(), 0, Qt::AlignHCenter);
     fraWelcome = MakeWelcome();
-    rows->addWidget(fraWelcome, 0, Qt::AlignHCenter);
-    rows->addStretch(1);
+    auto* columns = new QHBoxLayout(Body());
+    columns->addStretch(1);
+    columns->addWidget(MakeTitle(), 0, Qt::AlignVCenter);
+    columns->addWidget(fraWelcome, 0, Qt::AlignVCenter);
+    columns->addStretch(1);
 
     cmdContinue = Named(new QPushButton(u"Continue"_s), u"cmdContinue"_s);
     cmdContinue->setToolTip(u"Starts the Program"_s);
@@ -106,7 +106,7 @@ QWidget* frmSplash::MakeTitle() {
 
 QWidget* frmSplash::MakeWelcome() {
     auto* welcome = Named(new Card(u"Welcome"_s), u"fraWelcome"_s);
-    welcome->setMaximumWidth(Em(welcomeWidth));
+    welcome->setFixedWidth(Em(welcomeWidth));
     welcome->Rows()->addWidget(MakePicture(1, u"Yes me, I'm the LOGO"_s), 0, Qt::AlignHCenter);
     for (const char* text : welcomeTexts) {
         auto* line = new QLabel(QString::fromLatin1(text));

@@ -5,6 +5,8 @@
 #include "store/Conversions.h"
 #include "store/TextLines.h"
 
+#include <QStringBuilder>
+
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -29,22 +31,19 @@ qint32 CounterValue(const QString& text) {
 } // namespace
 
 const QString& SlipTable::Text(SlipLine line, int entry) const {
-    const auto& texts = lines[size_t(line) - 1];
-    if (entry < 1 || size_t(entry) > texts.size())
+    if (entry < 1 || size_t(entry) > entries.size())
         throw RuntimeFailure(FailureKind::Subscript,
                              u"The slip table has no entry %1."_s.arg(entry));
-    return texts[size_t(entry) - 1];
+    return entries[size_t(entry) - 1][size_t(line) - 1];
 }
 
 void SlipTable::Set(SlipLine line, int entry, const QString& text) {
-    lines[size_t(line) - 1].at(size_t(entry) - 1) = text;
+    entries.at(size_t(entry) - 1)[size_t(line) - 1] = text;
 }
 
 void SlipTable::Grow(int count) {
-    for (auto& texts : lines) {
-        if (texts.size() < size_t(count))
-            texts.resize(size_t(count));
-    }
+    if (entries.size() < size_t(count))
+        entries.resize(size_t(count));
 }
 
 DeliverySlipRoutines::DeliverySlipRoutines(BasicDiskRoutines& diskRoutines,
@@ -55,7 +54,7 @@ DeliverySlipRoutines::DeliverySlipRoutines(BasicDiskRoutines& diskRoutines,
       user(person) {}
 
 QString DeliverySlipRoutines::HeaderFile(const QString& slipNo) {
-    return deliveriesFolder + u'/' + slipNo + u".txt"_s;
+    return deliveriesFolder % u'/' % slipNo % ".txt"_L1;
 }
 
 QString DeliverySlipRoutines::ItemFile(const QString& slipNo) {
@@ -106,7 +105,7 @@ void DeliverySlipRoutines::LoadSlips(bool processPast) {
 void DeliverySlipRoutines::ReadHeaders(const std::vector<QString>& names) {
     Table.Grow(SlipCount);
     for (int entry = 1; entry <= SlipCount; ++entry) {
-        disk.OpenForInput(deliveriesFolder + u'/' + names[size_t(entry) - 1]);
+        disk.OpenForInput(deliveriesFolder % u'/' % names[size_t(entry) - 1]);
         TextReader reader(disk);
         for (int line = 1; line <= slipTableLines; ++line)
             Table.Set(SlipLine(line), entry, reader.WholeLine());
@@ -118,7 +117,7 @@ void DeliverySlipRoutines::ProcessPastSlips(const std::vector<QString>& names) {
     const QDate today = clock.Today();
     for (int entry = 1; entry <= SlipCount; ++entry) {
         const QString date = Table.Text(SlipLine::Date, entry);
-        if (ToDate(date, DateLineOf(names[size_t(entry) - 1])) < today)
+        if (ToDate(date, [&] { return DateLineOf(names[size_t(entry) - 1]); }) < today)
             ProcessPastSlip(Table.Text(SlipLine::SlipNumber, entry), date,
                             Table.Text(SlipLine::Recurring, entry),
                             Table.Text(SlipLine::Frequency, entry));

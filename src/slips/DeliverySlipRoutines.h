@@ -40,7 +40,7 @@ public:
     void Grow(int count);
 
 private:
-    std::array<std::vector<QString>, slipTableLines> lines;
+    std::vector<std::array<QString, slipTableLines>> entries;
 };
 
 /// What a slip's header file holds: the ten table lines and the two addresses (name, street,

@@ -50,11 +50,16 @@ private:
 
 /// A name as messages show it: relative, with plain separators.
 QString Shown(const QString& name) {
-    QString shown = name;
-    shown.replace(u'\\', u'/');
-    while (shown.contains("//"_L1))
-        shown.replace("//"_L1, "/"_L1);
-    return shown.startsWith(u'/') ? shown.mid(1) : shown;
+    QString shown;
+    shown.reserve(name.size());
+    for (const QChar character : name) {
+        const bool isSeparator = character == u'/' || character == u'\\';
+        if (!isSeparator)
+            shown += character;
+        else if (!shown.isEmpty() && shown.back() != u'/')
+            shown += u'/';
+    }
+    return shown;
 }
 
 QString Reading(const QString& name) {
@@ -156,7 +161,7 @@ BasicDiskRoutines::~BasicDiskRoutines() {
 QByteArray BasicDiskRoutines::PathOf(const QString& name) const {
     const QString path = Shown(name);
     bool leaves = path.contains(QChar::Null);
-    for (const QStringView part : QStringView(path).split(u'/'))
+    for (const QStringView part : QStringView(path).tokenize(u'/'))
         leaves = leaves || part == ".."_L1;
     if (leaves)
         throw RuntimeFailure(FailureKind::BadFileName,
@@ -257,6 +262,11 @@ void BasicDiskRoutines::OpenForInput(const QString& name) {
     const Descriptor source(Open(name, O_RDONLY, "reading"));
     inputs.insert({number, {ReadText(source.Get(), name), 0, Shown(name)}});
     DiskFile = number;
+}
+
+void BasicDiskRoutines::CheckOpens(const QString& name) {
+    const Descriptor source(Open(name, O_RDONLY, "reading"));
+    CloseAllFiles();
 }
 
 qint16 BasicDiskRoutines::OpenForOutputBeside(const QString& name) {

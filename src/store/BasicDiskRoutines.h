@@ -38,6 +38,9 @@ public:
     qint16 RecordCount(const QString& name, qint16 recordLength);
 
     void OpenForInput(const QString& name);
+    /// Opens the file for input and closes all files, without reading it: what is asked is whether
+    /// it opens.
+    void CheckOpens(const QString& name);
     /// Creates the file or empties it.
     void OpenForOutput(const QString& name);
     /// As OpenForOutput, but beside the file on DiskFile, which it leaves as it is. Returns the

@@ -18,17 +18,20 @@ QString Located(const QString& where) {
     return where.isEmpty() ? QString() : u" ("_s + where + u')';
 }
 
-RuntimeFailure Mismatch(QStringView text, const QString& what, const QString& where) {
+QString Shortened(QStringView text) {
     constexpr qsizetype longestShown = 60;
-    const QString shown = text.size() > longestShown ? text.left(longestShown).toString() + u"..."_s
-                                                     : text.toString();
-    return {FailureKind::TypeMismatch,
-            u"The text \"%1\" is not %2%3."_s.arg(shown, what, Located(where))};
+    return text.size() > longestShown ? text.left(longestShown).toString() + u"..."_s
+                                      : text.toString();
 }
 
-RuntimeFailure TooLarge(const QString& number, const QString& where) {
+RuntimeFailure Mismatch(QStringView text, const QString& what, const QString& where) {
+    return {FailureKind::TypeMismatch,
+            u"The text \"%1\" is not %2%3."_s.arg(Shortened(text), what, Located(where))};
+}
+
+RuntimeFailure TooLarge(QStringView number, const QString& where) {
     return {FailureKind::Overflow,
-            u"The number %1 is outside its range%2."_s.arg(number, Located(where))};
+            u"The number %1 is outside its range%2."_s.arg(Shortened(number), Located(where))};
 }
 
 template <typename Whole>
@@ -64,6 +67,12 @@ Decimal DecimalOf(const QByteArray& plain) {
     if (exponentMark >= 0)
         decimal.places -= plain.mid(exponentMark + 1).toInt();
     return decimal;
+}
+
+bool IsAtLeastOne(const Decimal& decimal) {
+    const auto first = std::find_if(decimal.digits.begin(), decimal.digits.end(),
+                                    [](char digit) { return digit != '0'; });
+    return decimal.digits.end() - first > decimal.places;
 }
 
 enum class Ties { ToEven, AwayFromZero };
@@ -109,11 +118,12 @@ QByteArray PlainNumberOf(QStringView text, const QString& where) {
     return *plain;
 }
 
-QString CurrencyTextOf(const Decimal& decimal, const QString& where = {}) {
+/// `number` is what a failure shows.
+QString CurrencyTextOf(const Decimal& decimal, QStringView number, const QString& where = {}) {
     const RegionalFormats& formats = RegionalFormats::Current();
     const auto count = CountOf(decimal, formats.CurrencyDecimals(), Ties::AwayFromZero);
     if (!count)
-        throw TooLarge(QString::fromLatin1(decimal.digits), where);
+        throw TooLarge(number, where);
     return formats.Currency(*count, decimal.negative && *count > 0);
 }
 
@@ -147,24 +157,33 @@ float ToSingle(QStringView text, const QString& where) {
 }
 
 double ToDouble(QStringView text, const QString& where) {
-    const double number = PlainNumberOf(text, where).toDouble();
-    if (!std::isfinite(number))
-        throw TooLarge(text.toString(), where);
-    return number;
+    const QByteArray plain = PlainNumberOf(text, where);
+    bool fits = false;
+    const double number = plain.toDouble(&fits);
+    if (fits)
+        return number;
+    if (IsAtLeastOne(DecimalOf(plain)))
+        throw TooLarge(text, where);
+    // Too close to zero for a double to tell from it.
+    return 0;
 }
 
 Currency ToCurrency(QStringView text, const QString& where) {
     const Decimal decimal = DecimalOf(PlainNumberOf(text, where));
     const auto count = CountOf(decimal, currencyValueDecimals, Ties::ToEven);
     if (!count || (*count == largestCount && !decimal.negative))
-        throw TooLarge(text.toString(), where);
+        throw TooLarge(text, where);
     return Currency::OfTenThousandths(qint64(decimal.negative ? 0 - *count : *count));
 }
 
 QDate ToDate(QStringView text, const QString& where) {
+    return ToDate(text, [&] { return where; });
+}
+
+QDate ToDate(QStringView text, const std::function<QString()>& where) {
     const auto date = RegionalFormats::Current().ParseDate(text);
     if (!date)
-        throw Mismatch(text, u"a date"_s, where);
+        throw Mismatch(text, u"a date"_s, where());
     return *date;
 }
 
@@ -198,7 +217,7 @@ QString CurrencyText(Currency amount) {
     decimal.negative = count < 0;
     decimal.digits = QByteArray::number(count < 0 ? quint64(0) - quint64(count) : quint64(count));
     decimal.places = currencyValueDecimals;
-    return CurrencyTextOf(decimal);
+    return CurrencyTextOf(decimal, NumberText(amount.ToDouble()));
 }
 
 QString CurrencyText(double amount) {
@@ -207,11 +226,12 @@ QString CurrencyText(double amount) {
     constexpr int placesOfFifteenDigits = 14;
     return CurrencyTextOf(DecimalOf(QByteArray::number(amount, 'e', placesOfFifteenDigits)
                                         .replace('e', 'E')
-                                        .replace("E+", "E")));
+                                        .replace("E+", "E")),
+                          NumberText(amount));
 }
 
 QString CurrencyText(QStringView text, const QString& where) {
-    return CurrencyTextOf(DecimalOf(PlainNumberOf(text, where)), where);
+    return CurrencyTextOf(DecimalOf(PlainNumberOf(text, where)), text, where);
 }
 
 QString ShortDateText(QDate date) {
@@ -220,7 +240,6 @@ QString ShortDateText(QDate date) {
 
 QString NumberText(double number) {
     constexpr int significantDigits = 15;
-    // Adding zero takes the sign off a negative zero.
-    QString text = QString::number(number + 0.0, 'g', significantDigits).toUpper();
+    QString text = QString::number(number, 'g', significantDigits).toUpper();
     return text.replace(u'.', RegionalFormats::Current().DecimalMark());
 }

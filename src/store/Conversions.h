@@ -5,6 +5,8 @@
 #include <QDate>
 #include <QString>
 
+#include <functional>
+
 /// Texts to values and back, by the machine's regional formats (platform/RegionalFormats.h).
 ///
 /// A text that is no such value is a failure of kind TypeMismatch, and a value outside the range
@@ -20,6 +22,8 @@ double ToDouble(QStringView text, const QString& where = {});
 /// Exact to the fourth decimal over the whole currency range.
 Currency ToCurrency(QStringView text, const QString& where = {});
 QDate ToDate(QStringView text, const QString& where = {});
+/// For one date of thousands: `where` is asked only for a text that is no date.
+QDate ToDate(QStringView text, const std::function<QString()>& where);
 
 qint16 ToInt16(double number, const QString& where = {});
 qint32 ToInt32(double number, const QString& where = {});

@@ -3,6 +3,7 @@
 #include "platform/CodePage.h"
 #include "platform/RuntimeFailure.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -75,13 +76,14 @@ QString TextReader::WholeLine() {
     auto& input = routines.InputOn(number);
     if (AtEnd())
         throw PastEnd(input);
-    qsizetype end = input.content.indexOf(lineEnd, input.position);
-    const qsizetype next = end < 0 ? input.content.size() : end + lineEnd.size();
+    qsizetype end = input.content.indexOf('\r', input.position);
+    while (end >= 0 && !IsLineEnd(input, end))
+        end = input.content.indexOf('\r', end + 1);
     if (end < 0)
         end = input.content.size();
     const QByteArrayView line =
         QByteArrayView(input.content).sliced(input.position, end - input.position);
-    input.position = next;
+    input.position = std::min(end + lineEnd.size(), input.content.size());
     return FromCodePage(line);
 }
 

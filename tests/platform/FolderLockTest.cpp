@@ -146,8 +146,9 @@ TEST_F(FolderLockTest, DeathOfTheHolderFreesTheFolder) {
 TEST_F(FolderLockTest, ProgramThatTheHolderStartsDoesNotKeepTheLock) {
     auto lock = std::make_unique<FolderLock>(folder.Path());
     Pipe pipe;
-    ChildProcess started([] {
+    ChildProcess started([&] {
         ::execl("/bin/sleep", "sleep", "60", static_cast<char*>(nullptr));
+        pipe.Tell();
         return 1;
     });
     // The child's end of the pipe closes by itself when the other program takes its place.

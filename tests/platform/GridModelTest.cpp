@@ -29,6 +29,7 @@ TEST(GridModel, CellOutsideTheGridIsASubscriptFailure) {
     GridModel grid({u"A"_s});
     EXPECT_EQ(FailureOf([&] { (void)grid.Text(1, 0); }).Kind(), FailureKind::Subscript);
     EXPECT_EQ(FailureOf([&] { grid.SetText(0, 1, {}); }).Kind(), FailureKind::Subscript);
+    EXPECT_EQ(FailureOf([&] { grid.RemoveRow(0); }).Kind(), FailureKind::Subscript);
 }
 
 TEST(GridModel, EqualRowsKeepTheirOrderInASort) {

@@ -105,6 +105,7 @@ TEST_F(PagePrinterTest, NewPageGoesOnInTheUpperLeftCornerOfTheNextPage) {
     EXPECT_NEAR(pages.PlaceOf(u"Second"_s, 2).top(), 0.0, nearby);
     EXPECT_NEAR(pages.PlaceOf(u"Third"_s, 3).left(), 3.0, nearby);
     EXPECT_NEAR(pages.PlaceOf(u"Third"_s, 3).top(), 4.0, nearby);
+    EXPECT_EQ(pages.Fonts(), QStringList{u"DejaVuSans"_s});
 }
 
 TEST_F(PagePrinterTest, PortraitIsLetterPaperUpright) {
@@ -344,15 +345,15 @@ TEST_F(PagePrinterTest, AJobWithoutANameIsNamedAfterTheProgram) {
 }
 
 TEST_F(PagePrinterTest, ATakenNameGetsTheNextNumber) {
-    folder.Write(u"Papers/Tessel Delivery/Invoice 12.pdf"_s, "kept");
-    printer.JobName = u"Invoice 12"_s;
+    folder.Write(u"Papers/Tessel Delivery/Invoice %1.pdf"_s, "kept");
+    printer.JobName = u"Invoice %1"_s;
     PrintOnePage();
     PrintOnePage();
     EXPECT_EQ(Documents(),
-              (QStringList{u"Invoice 12 (2).pdf"_s, u"Invoice 12 (3).pdf"_s, u"Invoice 12.pdf"_s}));
-    EXPECT_EQ(folder.Read(u"Papers/Tessel Delivery/Invoice 12.pdf"_s), "kept");
-    EXPECT_EQ(opened, (QStringList{PathOfDocument(u"Invoice 12 (2).pdf"_s),
-                                   PathOfDocument(u"Invoice 12 (3).pdf"_s)}));
+              (QStringList{u"Invoice %1 (2).pdf"_s, u"Invoice %1 (3).pdf"_s, u"Invoice %1.pdf"_s}));
+    EXPECT_EQ(folder.Read(u"Papers/Tessel Delivery/Invoice %1.pdf"_s), "kept");
+    EXPECT_EQ(opened, (QStringList{PathOfDocument(u"Invoice %1 (2).pdf"_s),
+                                   PathOfDocument(u"Invoice %1 (3).pdf"_s)}));
 }
 
 TEST_F(PagePrinterTest, ASlashInTheNameIsNoFolder) {

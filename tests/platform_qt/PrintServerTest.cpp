@@ -16,6 +16,7 @@ constexpr int milliSecondsForServer = 60'000;
 
 /// A machine whose default printer is the queue of a print server of its own. The server's shell
 /// waits for orders, one a line, and stops the server when the orders end, however the test does.
+/// The print system's library reads CUPS_SERVER once a process, so each test needs its own process.
 class PrintServerTest : public testing::Test {
 protected:
     PrintServerTest() {
@@ -156,7 +157,7 @@ TEST_F(PrintServerTest, WithoutTheProgramThatSendsJobsPrintingFails) {
     EXPECT_TRUE(PrintedJobs().isEmpty());
 }
 
-TEST_F(PrintServerTest, PaperAndColorAreAskedFor) {
+TEST_F(PrintServerTest, PaperColorAndTrueSizeAreAskedFor) {
     printer.SetPage(Orientation::Portrait, false);
     printer.Print(u"Grey"_s);
     printer.EndJob();
@@ -166,6 +167,7 @@ TEST_F(PrintServerTest, PaperAndColorAreAskedFor) {
     Order("WaitForPrintedJobs 2");
     EXPECT_TRUE(OptionsOfJob(1).contains(u"print-color-mode=monochrome"_s));
     EXPECT_TRUE(OptionsOfJob(1).contains(u"media=Letter"_s));
+    EXPECT_TRUE(OptionsOfJob(1).contains(u"print-scaling=none"_s));
     EXPECT_TRUE(OptionsOfJob(2).contains(u"print-color-mode=color"_s));
     EXPECT_TRUE(OptionsOfJob(2).contains(u"media=Letter"_s));
 }

@@ -100,7 +100,7 @@ QImage PrintedPages::Picture(int page) const {
     const QString number = QString::number(page);
     OutputOf(u"pdftoppm"_s, {u"-r"_s, QString::number(dotsInInch), u"-singlefile"_s, u"-f"_s,
                              number, path, folder.filePath(u"page"_s)});
-    const QImage picture(folder.filePath(u"page.ppm"_s));
+    QImage picture(folder.filePath(u"page.ppm"_s));
     EXPECT_FALSE(picture.isNull());
     return picture;
 }

@@ -1,10 +1,10 @@
+#include "platform/DatePicker.h"
 #include "platform/Grid.h"
 #include "schedule/frmPrintSchedules.h"
 #include "support/SampleSlips.h"
 #include "support/ScreenTest.h"
 
 #include <QCheckBox>
-#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -51,7 +51,7 @@ protected:
     }
     QString Caption(const QString& name) { return Find<QLabel>(board, name)->text(); }
     QLineEdit* Charge() { return Find<QLineEdit>(board, u"txtDeliveryCharge"_s); }
-    QDateEdit* Date() { return Find<QDateEdit>(board, u"DTPicker1"_s); }
+    DatePicker* Date() { return Find<DatePicker>(board, u"DTPicker1"_s); }
 
     Grid* grid = nullptr;
 };
@@ -59,7 +59,7 @@ protected:
 TEST_F(PrintSchedulesScreen, FirstShowingPicksTheFirstVehicleAndToday) {
     WriteBusiness();
     Open();
-    EXPECT_EQ(Date()->date(), QDate(2026, 3, 9));
+    EXPECT_EQ(Date()->Date(), QDate(2026, 3, 9));
     EXPECT_EQ(Caption(u"lblWeekday"_s), u"Monday"_s);
     EXPECT_EQ(Caption(u"Label1(14)"_s), u"Van 2 - 3/9/2026"_s);
     ASSERT_EQ(office.board.fgSchedule.Rows(), 3);
@@ -111,18 +111,18 @@ TEST_F(PrintSchedulesScreen, UpDownStepsTheDateByOneDay) {
     WriteBusiness();
     Open();
     Click(board, u"UpDown1(up)"_s);
-    EXPECT_EQ(Date()->date(), QDate(2026, 3, 10));
+    EXPECT_EQ(Date()->Date(), QDate(2026, 3, 10));
     EXPECT_EQ(Caption(u"lblWeekday"_s), u"Tuesday"_s);
     EXPECT_EQ(Cell(1, customerColumn), u"Hill School"_s);
     Click(board, u"UpDown1(down)"_s);
-    EXPECT_EQ(Date()->date(), QDate(2026, 3, 9));
+    EXPECT_EQ(Date()->Date(), QDate(2026, 3, 9));
 }
 
 TEST_F(PrintSchedulesScreen, StepBeforeTodayIsResetWithBeepAndMessage) {
     Open();
     user.ExpectMessage(u"Date has been Reset to Next Available Work Day"_s, u"Invalid Date"_s);
     Click(board, u"UpDown1(down)"_s);
-    EXPECT_EQ(Date()->date(), QDate(2026, 3, 9));
+    EXPECT_EQ(Date()->Date(), QDate(2026, 3, 9));
     EXPECT_EQ(user.Beeps, 1);
 }
 
@@ -134,14 +134,17 @@ TEST_F(PrintSchedulesScreen, DateTypedBeforeTodayWithPromptsOffIsCorrectedSilent
     Date()->selectAll();
     Type(Date(), u"3/2/2026"_s);
     Press(Date(), Qt::Key_Return);
-    EXPECT_EQ(Date()->date(), QDate(2026, 3, 9));
+    EXPECT_EQ(Date()->Date(), QDate(2026, 3, 9));
     EXPECT_EQ(user.Beeps, 0);
 }
 
 TEST_F(PrintSchedulesScreen, SaturdayMovesToMondayInSilence) {
     Open();
-    Date()->setDate({2026, 3, 14});
-    EXPECT_EQ(Date()->date(), QDate(2026, 3, 16));
+    Date()->setFocus();
+    Date()->selectAll();
+    Type(Date(), u"3/14/2026"_s);
+    Press(Date(), Qt::Key_Return);
+    EXPECT_EQ(Date()->Date(), QDate(2026, 3, 16));
 }
 
 TEST_F(PrintSchedulesScreen, ClickInColumnZeroMarksTheRowAlone) {

@@ -105,7 +105,9 @@ TEST_F(ConversionsTest, DoublesAreReadInTheRegionalForm) {
 TEST_F(ConversionsTest, DoublesOutsideTheirRangeOverflow) {
     EXPECT_EQ(KindOf([] { ToDouble(u"1E400"_s); }), FailureKind::Overflow);
     EXPECT_EQ(KindOf([] { ToDouble(QString(400, u'9')); }), FailureKind::Overflow);
+    EXPECT_EQ(KindOf([] { ToDouble(u"-0.1E400"_s); }), FailureKind::Overflow);
     EXPECT_EQ(ToDouble(u"1E-400"_s), 0.0);
+    EXPECT_EQ(ToDouble(u"0."_s + QString(400, u'0') + u'1'), 0.0);
 }
 
 TEST_F(ConversionsTest, SinglesAreSinglePrecision) {
@@ -230,6 +232,13 @@ TEST_F(ConversionsTest, AmountTooLargeToShowOverflows) {
     EXPECT_EQ(KindOf([] { CurrencyText(std::numeric_limits<double>::quiet_NaN()); }),
               FailureKind::Overflow);
     EXPECT_EQ(KindOf([] { CurrencyText(u"1E999"_s); }), FailureKind::Overflow);
+}
+
+TEST_F(ConversionsTest, FailureShowsTheAmountAsItReads) {
+    EXPECT_EQ(FailureOf([] { CurrencyText(1e300); }).Sentence(),
+              u"The number 1E+300 is outside its range."_s);
+    EXPECT_EQ(FailureOf([] { CurrencyText(u"$1E300"_s, u"field 11"_s); }).Sentence(),
+              u"The number $1E300 is outside its range (field 11)."_s);
 }
 
 TEST_F(ConversionsTest, ToCurrencyIsExactToTheFourthDecimalHalfToEven) {

@@ -1,0 +1,165 @@
+#!/usr/bin/env bash
+# What can't be read or written stops the program, with a report, with the data as it was and
+# without the safety copy of an ordinary exit: failure-test.sh PROGRAM SAMPLEMAKER RULE
+
+# A full disk is one of the test's own, in a name space of its own, so that it goes with the test.
+# Where the machine lets nobody mount one, there is a file size limit instead.
+if [[ $3 == FullDiskStopsTheReschedule && -z ${mayMount:-} ]]; then
+    export mayMount=no
+    for rights in --mount --map-root-user; do
+        if unshare --mount $rights mount -t tmpfs none /mnt 2>/dev/null; then
+            mayMount=yes exec unshare --mount $rights "$0" "$@"
+        fi
+    done
+fi
+
+# shellcheck source=tests/endtoend/play.sh
+source "$(dirname "${BASH_SOURCE[0]}")/play.sh"
+
+rule=$1
+
+headers=TesselDelivery/Deliveries
+temporaryHeader=$headers/TempFile.txt
+keptPastSlip="$headers/20260001.txt"
+
+# What a rule sets: how the folder is spoiled before its picture is taken, and what is put in the
+# program's way after that; the words to start the program with; the operator's way to the failure;
+# and the sentence of the report.
+Spoil() { :; }
+Obstruct() { :; }
+PlayUpToFailure() { :; }
+startWords=()
+sentence=''
+# The file that may be left behind, empty, as it was created before the write to it failed.
+leftBehind=''
+
+KeepFirstPastSlip() {
+    AnswerNext "$recurringQuestion" alt+n
+}
+
+OpenBoard() {
+    Continue
+    Press "$(WaitForWindow "$menuScreen")" alt+p
+}
+
+# CutTo LINES FILE
+CutTo() {
+    sed -i "$(($1 + 1)),\$d" "$business/$2"
+}
+
+# ReplaceLine NUMBER TEXT FILE
+ReplaceLine() {
+    sed -i "$1s/.*/$2\r/" "$business/$3"
+}
+
+SpoilHolidays() {
+    printf '"Christmas"\r\n' >"$business/Holidays.txt"
+}
+
+# As the superuser a file's rights bind the program only when it goes without the superuser's
+# freedom from them. As anyone else they bind it anyway.
+ObeyRights() {
+    [[ $EUID -ne 0 ]] || startWords=(setpriv --bounding-set=-dac_override,-dac_read_search)
+}
+
+# The messages go through a pipe, which the limit does not bind.
+LimitFileSize() {
+    # shellcheck disable=SC2016  # for the inner shell to expand
+    startWords=(bash -c 'exec 2> >(exec cat >&2); ulimit -S -f 0; exec "$@"' limited)
+}
+
+UseOwnDisk() {
+    mkdir "$dayFolder/disk"
+    mount -t tmpfs -o size=4m none "$dayFolder/disk"
+    trap 'umount "$dayFolder/disk"; EndPlay' EXIT
+    business=$dayFolder/disk/$businessName
+}
+
+FillOwnDisk() {
+    cat /dev/zero >"$dayFolder/disk/filler" 2>/dev/null || true
+}
+
+BeginPlay
+case $rule in
+SlipOfFewerThanTenLinesStopsTheStart)
+    Spoil() { CutTo 9 "$headers/20260009.txt"; }
+    sentence="Reading $headers/20260009.txt failed: the file ends before all of its values were read."
+    ;;
+SlipWhoseDateIsNoDateStopsTheStart)
+    Spoil() { ReplaceLine 2 'next Tuesday' "$keptPastSlip"; }
+    sentence="The text \"next Tuesday\" is not a date (reading the delivery date in $keptPastSlip)."
+    ;;
+SettingsFileWithTooFewFieldsStopsTheStart)
+    Spoil() { CutTo 3 PrintColors.txt; }
+    sentence='Reading PrintColors.txt failed: the file ends before all of its values were read.'
+    ;;
+SettingsFileWithAWrongTypeStopsTheStart)
+    Spoil() { ReplaceLine 2 five Settings.txt; }
+    sentence='Reading Settings.txt failed: "five" is not a number.'
+    ;;
+HolidaysThatAreNoDatesStopTheReschedule)
+    Spoil() { SpoilHolidays; }
+    PlayUpToFailure() { KeepFirstPastSlip; }
+    sentence='Reading Holidays.txt failed: "Christmas" is not a date.'
+    ;;
+HolidaysThatAreNoDatesStopTheBoard)
+    Spoil() {
+        SpoilHolidays
+        RemovePastSlips "$business"
+    }
+    PlayUpToFailure() { OpenBoard; }
+    sentence='Reading Holidays.txt failed: "Christmas" is not a date.'
+    ;;
+UnreadableFileStopsTheStart)
+    Obstruct() { chmod 000 "$business/CustomerData.txt"; }
+    ObeyRights
+    sentence='Opening CustomerData.txt for reading and writing failed: Permission denied.'
+    ;;
+ReadOnlyFolderStopsTheStart)
+    Spoil() { rmdir "$business/2026"; }
+    Obstruct() { chmod -R a-w "$business"; }
+    ObeyRights
+    sentence='Making the folder 2026 failed: Permission denied.'
+    ;;
+FullDiskStopsTheReschedule)
+    PlayUpToFailure() { KeepFirstPastSlip; }
+    if [[ $mayMount == yes ]]; then
+        UseOwnDisk
+        Obstruct() { FillOwnDisk; }
+        sentence="Writing $temporaryHeader failed: No space left on device."
+    else
+        LimitFileSize
+        sentence="Writing $temporaryHeader failed: File too large."
+    fi
+    leftBehind=$temporaryHeader
+    ;;
+FileSizeLimitStopsTheReschedule)
+    PlayUpToFailure() { KeepFirstPastSlip; }
+    LimitFileSize
+    sentence="Writing $temporaryHeader failed: File too large."
+    leftBehind=$temporaryHeader
+    ;;
+*) Fail "There is no rule $rule." ;;
+esac
+
+LayOutBusiness
+Spoil
+Snapshot >"$dayFolder/before.txt"
+Obstruct
+
+StartPlay "${startWords[@]}"
+PlayUpToFailure
+report=$(WaitForWindow "$failureReport")
+grep -Fxq "$sentence" "$dayFolder/program.log" || FailDay "the report lacks \"$sentence\"."
+Press "$report" Return
+WaitForEnd
+[[ $programStatus -eq 1 ]] || FailDay "the program ended with status $programStatus."
+
+chmod -R u+rwX "$business"
+if [[ -n $leftBehind && -e $business/$leftBehind ]]; then
+    [[ ! -s $business/$leftBehind ]] || FailDay "$leftBehind holds something."
+    rm "$business/$leftBehind"
+fi
+# The backup folder is part of the picture: no copy has come into it.
+Snapshot >"$dayFolder/after.txt"
+ExpectSame "the data folder" "$dayFolder/before.txt" "$dayFolder/after.txt"

@@ -1,0 +1,199 @@
+# shellcheck shell=bash
+# The end-to-end tests play the program as an operator has it: in a window on a display of its own,
+# with real keys, on a set day. A test sources this file, which takes the test's first two
+# arguments: the program and the maker of the sample business.
+#
+# What a failed test leaves behind, picture and messages, is in the folder that it names.
+
+set -euo pipefail
+
+endToEndFolder=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+# shellcheck source=scripts/lib/common.sh
+source "$endToEndFolder/../../scripts/lib/common.sh"
+# shellcheck source=scripts/lib/working-day.sh
+source "$projectFolder/scripts/lib/working-day.sh"
+
+program=$1
+sampleMaker=$2
+shift 2
+
+failureReport='Run-time Failure'
+recurringQuestion='Delete a Recurring Slip'
+# A message box without a title of its own has the program's.
+notice=$titleScreen
+
+playDate=2026-03-09
+playLocale=en_US.UTF-8
+# A name that a careless road from the folder to a file would trip over.
+businessName='Büro Süd 1'
+business=''
+otherProcesses=()
+playClock=()
+
+# A clock that runs on from the morning of the set day, as words for env. The preloaded clock comes
+# before the sanitizer's own library, which that library must put up with.
+SetClock() {
+    playClock=(
+        "LD_PRELOAD=$(faketime "$playDate" printenv LD_PRELOAD)"
+        "FAKETIME=@$playDate 08:00:00"
+        FAKETIME_DONT_FAKE_MONOTONIC=1
+        FAKETIME_DISABLE_SHM=1
+        "ASAN_OPTIONS=${ASAN_OPTIONS:+$ASAN_OPTIONS:}verify_asan_link_order=0"
+    )
+}
+
+BeginPlay() {
+    BeginDay "$(mktemp -d -t tessel-play-XXXXXX)"
+    trap EndPlay EXIT
+    business="$dayFolder/$businessName"
+    SetClock
+}
+
+EndPlay() {
+    local status=$?
+    if [[ $status -ne 0 ]]; then
+        [[ -e $dayFolder/failed.png ]] || import -window root "$dayFolder/failed.png" || true
+        printf 'Picture and messages are in %s\n' "$dayFolder" >&2
+    fi
+    [[ ${#otherProcesses[@]} -eq 0 ]] || kill "${otherProcesses[@]}" 2>/dev/null || true
+    StopDay
+    if [[ $status -eq 0 ]]; then
+        chmod -R u+rwX "$dayFolder"
+        rm -rf "$dayFolder"
+    fi
+}
+
+# LayOutBusiness [FOLDER]: the sample business as it is on the set day.
+LayOutBusiness() {
+    env LC_ALL="$playLocale" "$sampleMaker" "${1:-$business}" --date "$playDate"
+}
+
+# StartPlay [WORD...]: the program on the business, with the words of StartProgram.
+StartPlay() {
+    StartProgram "$program" "$business" LC_ALL="$playLocale" "${playClock[@]}" "$@"
+}
+
+# WindowOf PROCESS TITLE: that process's window of that title, or nothing.
+WindowOf() {
+    local window
+    for window in $(Windows); do
+        if [[ $(xdotool getwindowpid "$window" 2>/dev/null) == "$1" &&
+            $(TitleOf "$window") == "$2" ]]; then
+            printf '%s\n' "$window"
+            return
+        fi
+    done
+}
+
+# Waits for a window of the program started last.
+WaitForWindow() {
+    local window i
+    for ((i = 0; i < 10 * secondsToWait; i++)); do
+        window=$(WindowOf "$programProcess" "$1")
+        if [[ -n $window ]]; then
+            printf '%s\n' "$window"
+            return
+        fi
+        ProgramRuns || FailDay "the program ended before it showed \"$1\"."
+        sleep 0.1
+    done
+    FailDay "\"$1\" did not appear."
+}
+
+# Waits for the title screen of the program started last.
+WaitForTitle() {
+    titleWindow=$(WaitForWindow "$titleScreen")
+}
+
+# AnswerNext TITLE KEY: the next message has that title and goes at that key.
+AnswerNext() {
+    local window='' title i
+    for ((i = 0; i < 10 * secondsToWait; i++)); do
+        window=$(FindMessage)
+        [[ -z $window ]] || break
+        ProgramRuns || FailDay "the program ended before the message \"$1\"."
+        sleep 0.1
+    done
+    [[ -n $window ]] || FailDay "the message \"$1\" did not come up."
+    title=$(TitleOf "$window")
+    [[ $title == "$1" ]] || FailDay "the message \"$title\" came up instead of \"$1\"."
+    Press "$window" "$2"
+    WaitUntilGone "$window" "$title"
+}
+
+# The title screen's continue action. What the program still has to tell would come first.
+Continue() {
+    Press "$titleWindow" Return
+    WaitForWindow "$menuScreen" >/dev/null
+}
+
+# The three recurring slips of the sample that have passed are kept, one after the other, and the
+# two that are not recurring go with a notice each.
+AnswerPastSlips() {
+    local i
+    for ((i = 0; i < 3; i++)); do
+        AnswerNext "$recurringQuestion" alt+n
+        AnswerNext "$notice" Return
+    done
+    AnswerNext "$notice" Return
+    AnswerNext "$notice" Return
+}
+
+RemovePastSlips() {
+    rm "$1"/TesselDelivery/{Deliveries,DeliveryItems}/2026000[1-5].txt
+}
+
+# From the menu to the print of the whole day of the board's first vehicle.
+PrintFirstVehicle() {
+    Press "$(WaitForWindow "$menuScreen")" alt+p
+    local board
+    board=$(WaitForWindow "$boardScreen")
+    Press "$board" alt+s
+    Press "$board" alt+p
+}
+
+# From the board through the menu to the end.
+Leave() {
+    Press "$(WaitForWindow "$boardScreen")" alt+m
+    LeaveProgram "$(WaitForWindow "$menuScreen")"
+}
+
+# Snapshot [FOLDER]: a line for each folder of a business and for each file with its checksum.
+Snapshot() {
+    (
+        cd "${1:-$business}"
+        find . -type f -exec sha256sum {} +
+        find . ! -type f -printf '%y  %p\n'
+    ) | LC_ALL=C sort -k 2
+}
+
+# ExpectSame WHAT EXPECTED ACTUAL: both are files.
+ExpectSame() {
+    diff --unified=1 --label expected --label actual "$2" "$3" >&2 || FailDay "$1 differs."
+}
+
+# The lines of a PDF from top to bottom, each from left to right with single blanks, so that the
+# fonts of the machine make no difference to them. What a further page repeats of the first page's
+# heading, of 7 lines, is left out, as the fonts decide where a page ends.
+PageText() {
+    pdftotext -tsv "$1" - | LC_ALL=C sed 's/\xef\xac\x81/fi/g; s/\xc2\xa0/ /g' |
+        awk -F '\t' '$1 == 5 { print $2 "\t" $8 "\t" $7 "\t" $12 }' |
+        LC_ALL=C sort -t $'\t' -k 1,1n -k 2,2n |
+        awk -F '\t' '$1 != page || $2 > top + 3 { ++line; page = $1; top = $2 }
+            { print line "\t" $3 "\t" $1 "\t" $4 }' |
+        LC_ALL=C sort -t $'\t' -k 1,1n -k 2,2n |
+        awk -F '\t' '
+            function flush() {
+                if (page == 1 && row <= 7) heading[row] = text
+                if (row > 0 && (page == 1 || row > 7 || text != heading[row])) print text
+            }
+            $1 != line { flush(); if ($3 != page) row = 0; line = $1; page = $3; ++row; text = $4; next }
+            { text = text " " $4 }
+            END { flush() }'
+}
+
+# ExpectPage PDF FILE: the page says what stands in the file of this folder.
+ExpectPage() {
+    PageText "$1" >"$dayFolder/page.txt"
+    ExpectSame "the printed page" "$endToEndFolder/$2" "$dayFolder/page.txt"
+}

@@ -1,0 +1,53 @@
+#!/usr/bin/env bash
+# One copy of the program works on a data folder: second-copy-test.sh PROGRAM SAMPLEMAKER
+
+# shellcheck source=tests/endtoend/play.sh
+source "$(dirname "${BASH_SOURCE[0]}")/play.sh"
+
+# So that a copy comes up without a question.
+LayOutQuietBusiness() {
+    LayOutBusiness "$1"
+    RemovePastSlips "$1"
+}
+
+BeginPlay
+LayOutQuietBusiness "$business"
+Snapshot >"$dayFolder/before.txt"
+
+Step "The first copy starts."
+StartPlay
+WaitForTitle
+first=$programProcess
+otherProcesses+=("$first")
+firstTitle=$titleWindow
+
+Step "A second copy is refused."
+StartPlay
+AnswerNext "$notice" Return
+WaitForEnd
+[[ $programStatus -eq 0 ]] || FailDay "the second copy ended with status $programStatus."
+
+Step "The first copy goes on."
+programProcess=$first
+[[ $(WindowOf "$first" "$titleScreen") == "$firstTitle" ]] || FailDay "the first copy has gone."
+Continue
+
+Step "A copy on another folder starts."
+LayOutQuietBusiness "$dayFolder/other"
+StartProgram "$program" "$dayFolder/other" "${playClock[@]}"
+otherProcesses+=("$programProcess")
+WaitForTitle
+Continue
+
+Step "A copy starts after the first has died."
+kill -KILL "$first"
+wait "$first" 2>/dev/null || true
+StartPlay
+WaitForTitle
+Continue
+
+Step "No copy has left anything in the folder."
+kill -KILL "$programProcess"
+wait "$programProcess" 2>/dev/null || true
+Snapshot >"$dayFolder/after.txt"
+ExpectSame "the data folder" "$dayFolder/before.txt" "$dayFolder/after.txt"
