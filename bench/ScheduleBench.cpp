@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 
+#include <string>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -50,17 +51,15 @@ static void LoadScheduleGrid(benchmark::State& state) {
         state.SkipWithError("The day has not the deliveries that it was given.");
         return;
     }
-    const PlainFolder plain(folder.Path().toStdString());
-    std::vector<std::string> names;
-    for (int number = 1; number <= slips; ++number)
-        names.push_back("TesselDelivery/Deliveries/" + SlipNumber(number).toStdString() + ".txt");
+    const std::vector<std::string> paths =
+        PlainList(folder.Path().toStdString() + "/TesselDelivery/Deliveries");
     CompareWithFloor(
         state, {"Filling the board from 10,000 slips against opening their files", 1.3},
         [&] { return SecondsOf([&] { office.rules.board.LoadScheduleGrid(); }); },
         [&] {
             return SecondsOf([&] {
-                for (const std::string& name : names)
-                    plain.OpenAndClose(name);
+                for (const std::string& path : paths)
+                    PlainOpenAndClose(path);
             });
         });
 }

@@ -12,11 +12,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const std::string deliveries = "TesselDelivery/Deliveries";
+std::string DeliveriesPath(const BenchFolder& folder) {
+    return folder.Path().toStdString() + "/TesselDelivery/Deliveries";
+}
 
-void ReadAllFiles(const PlainFolder& plain) {
-    for (const std::string& name : plain.List(deliveries))
-        benchmark::DoNotOptimize(plain.Read(deliveries + '/' + name));
+void ReadAllFiles(const std::string& folder) {
+    for (const std::string& path : PlainList(folder))
+        benchmark::DoNotOptimize(PlainRead(path));
 }
 
 /// The seconds since a message.
@@ -32,11 +34,11 @@ static void LoadSlips(benchmark::State& state) {
     BenchOffice office(folder.Path());
     for (int number = 1; number <= slips; ++number)
         WriteHeader(office.rules, {.number = SlipNumber(number)});
-    const PlainFolder plain(folder.Path().toStdString());
+    const std::string deliveries = DeliveriesPath(folder);
     CompareWithFloor(
         state, {"Loading 10,000 slips against reading their files", 1.5},
         [&] { return SecondsOf([&] { office.rules.slips.LoadSlips(false); }); },
-        [&] { return SecondsOf([&] { ReadAllFiles(plain); }); });
+        [&] { return SecondsOf([&] { ReadAllFiles(deliveries); }); });
 }
 BENCHMARK(LoadSlips)->UseManualTime()->Iterations(21)->Unit(benchmark::kMillisecond);
 
@@ -48,14 +50,13 @@ class PastSlips {
 public:
     PastSlips() {
         for (int number = 1; number <= count; ++number) {
-            const QString slipNo = SlipNumber(number);
-            WriteHeader(office.rules, {.number = slipNo,
+            WriteHeader(office.rules, {.number = SlipNumber(number),
                                        .date = u"3/2/2026"_s,
                                        .recurring = u"True"_s,
                                        .frequency = u"0000001"_s});
-            const std::string name = deliveries + '/' + slipNo.toStdString() + ".txt";
-            contents.emplace_back(name, plain.Read(name));
         }
+        for (const std::string& path : PlainList(deliveries))
+            contents.emplace_back(path, PlainRead(path));
     }
 
     /// From the first question to the end: what comes before it is the building of the table.
@@ -72,31 +73,31 @@ public:
         office.rules.slips.LoadSlips(false);
         const std::string temporary = deliveries + "/TempFile.txt";
         return SecondsOf([&] {
-            for (const auto& [name, bytes] : contents) {
-                plain.Write(temporary, plain.Read(name));
-                plain.Remove(name);
-                plain.Rename(temporary, name);
+            for (const auto& [path, bytes] : contents) {
+                PlainWrite(temporary, PlainRead(path));
+                PlainRemove(path);
+                PlainRename(temporary, path);
             }
         });
     }
 
     bool AreAllMoved() const {
-        const auto isMoved = [this](const auto& content) {
-            return plain.Read(content.first).find("\r\n3/9/2026\r\n") != std::string::npos;
+        const auto isMoved = [](const auto& content) {
+            return PlainRead(content.first).find("\r\n3/9/2026\r\n") != std::string::npos;
         };
         return std::all_of(contents.begin(), contents.end(), isMoved);
     }
 
 private:
     void PutBack() const {
-        for (const auto& [name, bytes] : contents)
-            plain.Write(name, bytes);
+        for (const auto& [path, bytes] : contents)
+            PlainWrite(path, bytes);
     }
 
     static constexpr int count = 1000;
     BenchFolder folder;
     BenchOffice office{folder.Path()};
-    PlainFolder plain{folder.Path().toStdString()};
+    const std::string deliveries = DeliveriesPath(folder);
     std::vector<std::pair<std::string, std::string>> contents;
 };
 

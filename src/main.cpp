@@ -21,32 +21,28 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void OpenDocument(const QString& path) {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(path));
-}
-
 /// Everything of a run that needs the data folder. It is made inside the event loop, where a
 /// failure is caught and reported.
 struct Run {
+    /// Shows a page that became a document, or at least tells where it is.
+    void OpenDocument(const QString& path) {
+        if (!QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+            user.MsgBox(u"The printed page is in this file:\n"_s + path, Buttons::Ok, {});
+    }
+
     SystemClock clock;
     DesktopOperator user;
     DesktopBrowser browser;
-    PagePrinter printer{OpenDocument};
+    PagePrinter printer{[this](const QString& path) { OpenDocument(path); }};
     std::unique_ptr<FolderLock> lock;
     std::unique_ptr<Office> office;
     std::unique_ptr<Screens> screens;
 };
 
-void TellAlreadyRunning(Operator& user) {
-    user.MsgBox(ProgramTitle() +
-                u" is already Running!\nLook for it on the Task Bar"_s);
-}
-
 void Start(Run& run) {
     const QString dataFolder = QDir::currentPath();
     run.lock = std::make_unique<FolderLock>(dataFolder);
-    if (!run.lock->IsHeld()) {
-        TellAlreadyRunning(run.user);
+    if (!CheckSingleInstance(*run.lock, run.user)) {
         QCoreApplication::exit(EXIT_SUCCESS);
         return;
     }
@@ -55,7 +51,7 @@ void Start(Run& run) {
     run.screens = std::make_unique<Screens>(*run.office);
     QObject::connect(run.screens.get(), &Screens::ExitRequested, qApp,
                      [] { QCoreApplication::exit(EXIT_SUCCESS); });
-    StartUp(*run.office, *run.screens);
+    Main(*run.office, *run.screens);
 }
 
 /// The end of every ordinary run: the screens go, then the safety copy is made.
@@ -71,7 +67,7 @@ int main(int argumentCount, char** arguments) {
     // A file size limit is a failed write to report, not a reason to be killed.
     std::signal(SIGXFSZ, SIG_IGN);
     GuardedApplication application(argumentCount, arguments);
-    QApplication::setApplicationName(u"tessel-delivery"_s);
+    QApplication::setApplicationName(ProgramName());
     QApplication::setApplicationVersion(QStringLiteral(TESSEL_VERSION));
     QApplication::setQuitOnLastWindowClosed(false);
     Theme::Apply(application);

@@ -43,7 +43,7 @@ void Start(Run& run) {
     run.office = std::make_unique<Office>(dataFolder,
                                           Machine{run.clock, run.user, run.printer, run.browser});
     run.screens = std::make_unique<Screens>(*run.office);
-    StartUp(*run.office, *run.screens);
+    Main(*run.office, *run.screens);
 }
 
 } // namespace

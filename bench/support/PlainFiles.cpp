@@ -10,64 +10,62 @@
 
 namespace {
 
+[[noreturn]] void TellFailure(const std::string& path) {
+    std::perror(path.c_str());
+    std::exit(EXIT_FAILURE);
+}
+
 /// The result of a system call; a failed one ends the benchmarks.
 template <typename Result>
-Result Checked(Result result, const std::string& name) {
-    if (result < 0) {
-        std::perror(name.c_str());
-        std::exit(EXIT_FAILURE);
-    }
+Result Checked(Result result, const std::string& path) {
+    if (result < 0)
+        TellFailure(path);
     return result;
+}
+
+int Open(const std::string& path, int flags) {
+    constexpr mode_t newFileMode = 0666;
+    return Checked(::open(path.c_str(), flags | O_CLOEXEC, newFileMode), path);
 }
 
 } // namespace
 
-PlainFolder::PlainFolder(const std::string& path)
-    : folder(Checked(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC), path)) {}
-
-PlainFolder::~PlainFolder() {
-    ::close(folder);
-}
-
-int PlainFolder::Open(const std::string& name, int flags) const {
-    constexpr mode_t newFileMode = 0666;
-    return Checked(::openat(folder, name.c_str(), flags | O_CLOEXEC, newFileMode), name);
-}
-
-std::vector<std::string> PlainFolder::List(const std::string& below) const {
-    DIR* listing = ::fdopendir(Open(below, O_RDONLY | O_DIRECTORY));
-    std::vector<std::string> names;
+std::vector<std::string> PlainList(const std::string& folder) {
+    DIR* listing = ::opendir(folder.c_str());
+    if (!listing)
+        TellFailure(folder);
+    std::vector<std::string> paths;
     while (const dirent* entry = ::readdir(listing)) {
         if (entry->d_name[0] != '.')
-            names.emplace_back(entry->d_name);
+            paths.push_back(folder + '/' + entry->d_name);
     }
     ::closedir(listing);
-    std::sort(names.begin(), names.end());
-    return names;
+    std::sort(paths.begin(), paths.end());
+    return paths;
 }
 
-void PlainFolder::OpenAndClose(const std::string& name) const {
-    ::close(Open(name, O_RDONLY));
+void PlainOpenAndClose(const std::string& path) {
+    ::close(Open(path, O_RDONLY));
 }
 
-std::string PlainFolder::Read(const std::string& name) const {
+std::string PlainRead(const std::string& path) {
     std::array<char, 8192> buffer;
-    const int file = Open(name, O_RDONLY);
-    const auto count = size_t(Checked(::read(file, buffer.data(), buffer.size()), name));
+    const int file = Open(path, O_RDONLY);
+    const auto count = size_t(Checked(::read(file, buffer.data(), buffer.size()), path));
     ::close(file);
     return {buffer.data(), count};
 }
 
-void PlainFolder::Write(const std::string& name, const std::string& bytes) const {
-    const int file = Open(name, O_WRONLY | O_CREAT | O_TRUNC);
-    Checked(::write(file, bytes.data(), bytes.size()), name);
-    Checked(::close(file), name);
+void PlainWrite(const std::string& path, const std::string& bytes) {
+    const int file = Open(path, O_WRONLY | O_CREAT | O_TRUNC);
+    Checked(::write(file, bytes.data(), bytes.size()), path);
+    Checked(::close(file), path);
 }
 
-void PlainFolder::Remove(const std::string& name) const {
-    Checked(::unlinkat(folder, name.c_str(), 0), name);
+void PlainRemove(const std::string& path) {
+    Checked(::unlink(path.c_str()), path);
 }
 
-void PlainFolder::Rename(const std::string& from, const std::string& to) const {
-    Checked(::renameat(folder, from.c_str(), folder, to.c_str()), from);
+void PlainRename(const std::string& from, const std::string& to) {
+    Checked(::rename(from.c_str(), to.c_str()), from);
 }

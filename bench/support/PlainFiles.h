@@ -3,25 +3,14 @@
 #include <string>
 #include <vector>
 
-/// A folder as the operating system gives it: the floors of the file benchmarks stand on this.
-/// Names are relative to the folder. A call that fails ends the benchmarks.
-class PlainFolder {
-public:
-    explicit PlainFolder(const std::string& path);
-    ~PlainFolder();
-    PlainFolder(const PlainFolder&) = delete;
-    PlainFolder& operator=(const PlainFolder&) = delete;
+/// Files as the operating system gives them to any program, by their full paths: the floors of the
+/// file benchmarks stand on these. A call that fails ends the benchmarks.
 
-    /// The names in a folder below, in name order, without those that begin with a point.
-    std::vector<std::string> List(const std::string& below) const;
-    void OpenAndClose(const std::string& name) const;
-    std::string Read(const std::string& name) const;
-    void Write(const std::string& name, const std::string& bytes) const;
-    void Remove(const std::string& name) const;
-    void Rename(const std::string& from, const std::string& to) const;
-
-private:
-    int Open(const std::string& name, int flags) const;
-
-    int folder;
-};
+/// The full paths of what is in a folder, in name order, without names that begin with a point.
+std::vector<std::string> PlainList(const std::string& folder);
+void PlainOpenAndClose(const std::string& path);
+/// At most 8,192 bytes: more than any file of the benchmarks has.
+std::string PlainRead(const std::string& path);
+void PlainWrite(const std::string& path, const std::string& bytes);
+void PlainRemove(const std::string& path);
+void PlainRename(const std::string& from, const std::string& to);

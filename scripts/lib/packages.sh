@@ -15,11 +15,11 @@ virtualDisplayPackages=(xvfb openbox xdotool imagemagick poppler-utils)
 # Checks and tests; the print server is for the tests that print through a real queue.
 testPackages=(
     clang-format shellcheck
-    xvfb xauth xdotool faketime imagemagick poppler-utils
+    xvfb xauth openbox xdotool faketime imagemagick poppler-utils
     cups cups-client printer-driver-cups-pdf
 )
 
-benchPackages=(libbenchmark-dev)
+benchPackages=(libbenchmark-dev xvfb)
 
 # The packages of the arguments that are not installed, one a line.
 MissingPackages() {

@@ -4,7 +4,6 @@
 #include "platform/Theme.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCalendarWidget>
 #include <QKeyEvent>
 #include <QScreen>
@@ -69,8 +68,8 @@ void DatePicker::Enter(QDate newDate) {
 void DatePicker::TakeTyped() {
     const auto typed = RegionalFormats::Current().ParseDate(text());
     if (!typed) {
-        QApplication::beep();
         SetDate(date);
+        Q_EMIT Refused();
     } else if (*typed != date) {
         Enter(*typed);
     }

@@ -5,7 +5,7 @@
 
 /// A date field in the regional short date form, to type in or to pick from a calendar; Up and Down
 /// step it by a day. It tells of a date once the user has finished entering it, and not while a
-/// program sets it. A text that is no date is taken back with a beep.
+/// program sets it. A text that is no date is taken back.
 class DatePicker : public QLineEdit {
     Q_OBJECT
 
@@ -18,6 +18,7 @@ public:
 
 Q_SIGNALS:
     void Changed(QDate date);
+    void Refused();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

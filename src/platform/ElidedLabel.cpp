@@ -3,6 +3,10 @@
 #include <QPainter>
 #include <QStyle>
 
+ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+}
+
 QSize ElidedLabel::minimumSizeHint() const {
     constexpr int fewestCharacters = 6;
     const int shortest = fontMetrics().averageCharWidth() * fewestCharacters;

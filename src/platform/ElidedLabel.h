@@ -8,7 +8,7 @@ class ElidedLabel : public QLabel {
     Q_OBJECT
 
 public:
-    using QLabel::QLabel;
+    explicit ElidedLabel(QWidget* parent = nullptr);
 
     QSize minimumSizeHint() const override;
 

@@ -2,6 +2,7 @@
 
 #include "platform/Theme.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -36,6 +37,9 @@ Grid::Grid(GridModel& gridModel, QWidget* parent) : QTableView(parent), grid(gri
     connect(&grid, &GridModel::CurrentChanged, this, &Grid::FollowModel);
     connect(this, &QTableView::clicked, this,
             [this](const QModelIndex& index) { Q_EMIT Clicked(index.row() + 1, index.column()); });
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
+        isSizedByUser = isSizedByUser || QApplication::mouseButtons() != Qt::NoButton;
+    });
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
             [this](int column) { Q_EMIT Clicked(0, column); });
 }
@@ -46,6 +50,8 @@ void Grid::SetEmptyHint(const QString& text) {
 }
 
 void Grid::FitColumns() {
+    if (isSizedByUser)
+        return;
     for (int column = 0; column < grid.Columns(); ++column) {
         const int width =
             qMax(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));

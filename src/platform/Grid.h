@@ -14,7 +14,8 @@ public:
 
     /// What an empty grid says instead of rows.
     void SetEmptyHint(const QString& text);
-    /// Widths by the contents, the last visible column takes what is left.
+    /// Widths by the contents, the last visible column takes what is left. Once the user has set a
+    /// width, all stay as they are.
     void FitColumns();
 
 Q_SIGNALS:
@@ -34,4 +35,5 @@ private:
 
     GridModel& grid;
     QString emptyHint;
+    bool isSizedByUser = false;
 };

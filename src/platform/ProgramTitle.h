@@ -7,3 +7,8 @@
 inline QString ProgramTitle() {
     return QStringLiteral("Tessel Delivery");
 }
+
+/// The program's file name.
+inline QString ProgramName() {
+    return QStringLiteral("tessel-delivery");
+}

@@ -91,8 +91,9 @@ bool IsDateMark(QChar character) {
 }
 
 /// Takes the characters that meet a condition off the front of a text.
-QStringView TakeWhile(QStringView& text, bool (*meets)(QChar)) {
-    const auto* end = std::find_if_not(text.begin(), text.end(), meets);
+template <bool (*Meets)(QChar)>
+QStringView TakeWhile(QStringView& text) {
+    const auto* end = std::find_if_not(text.begin(), text.end(), Meets);
     const QStringView taken = text.first(end - text.begin());
     text = text.sliced(taken.size());
     return taken;
@@ -103,18 +104,25 @@ QStringView TakeWhile(QStringView& text, bool (*meets)(QChar)) {
 std::optional<std::array<QStringView, 3>> DateParts(QStringView text) {
     constexpr qsizetype mostMarks = 3;
     std::array<QStringView, 3> parts;
-    TakeWhile(text, IsAsciiBlank);
-    parts[0] = TakeWhile(text, IsAsciiDigit);
+    TakeWhile<IsAsciiBlank>(text);
+    parts[0] = TakeWhile<IsAsciiDigit>(text);
     for (size_t i = 1; i < parts.size(); ++i) {
-        const qsizetype marks = TakeWhile(text, IsDateMark).size();
-        parts[i] = TakeWhile(text, IsAsciiDigit);
+        const qsizetype marks = TakeWhile<IsDateMark>(text).size();
+        parts[i] = TakeWhile<IsAsciiDigit>(text);
         if (marks < 1 || marks > mostMarks)
             return {};
     }
     if (!text.isEmpty() && IsDateMark(text.front()))
         text = text.sliced(1);
-    TakeWhile(text, IsAsciiBlank);
+    TakeWhile<IsAsciiBlank>(text);
     return text.isEmpty() ? std::optional(parts) : std::nullopt;
+}
+
+int NumberOf(QStringView digits) {
+    int number = 0;
+    for (const QChar digit : digits)
+        number = 10 * number + (digit.unicode() - u'0');
+    return number;
 }
 
 /// Takes a part off the front or the back of a text, with the blanks beside it.
@@ -265,7 +273,7 @@ std::optional<QDate> RegionalFormats::ParseDate(QStringView text) const {
         const bool isYear = order[qsizetype(i)] == u'y';
         if (digits.isEmpty() || isYear != (digits.size() == 4) || (!isYear && digits.size() > 2))
             return {};
-        (isYear ? year : order[qsizetype(i)] == u'M' ? month : day) = digits.toInt();
+        (isYear ? year : order[qsizetype(i)] == u'M' ? month : day) = NumberOf(digits);
     }
     const QDate date(year, month, day);
     return date.isValid() ? std::optional(date) : std::nullopt;

@@ -1,6 +1,6 @@
 #include "platform/Screen.h"
 
-#include "platform/Theme.h"
+#include "platform/ElidedLabel.h"
 #include "platform/WindowLayout.h"
 
 #include <QAbstractButton>
@@ -14,7 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int cardGap = 16;
+/// All screens so far stand in the same place.
+const QString layoutKey = u"TesselDelivery"_s;
+
 constexpr int cardSide = 16;
 constexpr int cardTop = 12;
 constexpr int bandSide = 20;
@@ -50,14 +52,27 @@ Screen::Screen(const QString& name, const QString& title) {
     rows->addWidget(scroll, 1);
     rows->addWidget(MakeFoot());
     setCentralWidget(whole);
+}
 
-    WindowLayout::Restore(*this);
+Screen::~Screen() {
+    if (isVisible())
+        WindowLayout::Save(*this, layoutKey);
+}
+
+void Screen::BringUp() {
+    if (!isVisible())
+        WindowLayout::Restore(*this, layoutKey);
+    show();
+    raise();
+    activateWindow();
 }
 
 QWidget* Screen::MakeHead(const QString& caption) {
     QFrame* head = MakeBand(u"headBand"_s);
     captionLabel = Named(new QLabel(caption), u"caption"_s);
-    where = Named(new QLabel, u"where"_s);
+    where = Named(new ElidedLabel, u"where"_s);
+    where->setProperty("soft", true);
+    where->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     QFont large = captionLabel->font();
     constexpr double captionScale = 1.6;
     large.setPointSizeF(large.pointSizeF() * captionScale);
@@ -65,8 +80,7 @@ QWidget* Screen::MakeHead(const QString& caption) {
     captionLabel->setFont(large);
     auto* row = static_cast<QHBoxLayout*>(head->layout());
     row->addWidget(captionLabel);
-    row->addStretch(1);
-    row->addWidget(where);
+    row->addWidget(where, 1);
     return head;
 }
 
@@ -103,12 +117,16 @@ void Screen::AddMainAction(QAbstractButton* button) {
 }
 
 void Screen::closeEvent(QCloseEvent* event) {
+    if (!event->spontaneous()) {
+        QMainWindow::closeEvent(event);
+        return;
+    }
     event->ignore();
     Q_EMIT ClosedByUser();
 }
 
 void Screen::hideEvent(QHideEvent* event) {
-    WindowLayout::Save(*this);
+    WindowLayout::Save(*this, layoutKey);
     QMainWindow::hideEvent(event);
 }
 
@@ -118,7 +136,7 @@ Card::Card(const QString& headingText, QWidget* parent)
     rows->setContentsMargins(cardSide, cardTop, cardSide, cardTop);
     rows->setSpacing(controlGap);
     heading->setProperty("cardHeading", true);
-    heading->setVisible(!headingText.isEmpty());
+    heading->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     rows->addWidget(heading);
 }
 

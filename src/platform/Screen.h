@@ -16,6 +16,10 @@ class Screen : public QMainWindow {
 
 public:
     Screen(const QString& name, const QString& title);
+    ~Screen() override;
+
+    /// Shows the screen in front, where the one before it stood.
+    void BringUp();
 
     /// Runs each time the screen comes to the front.
     virtual void Activate() {}
@@ -49,7 +53,10 @@ private:
     QHBoxLayout* actions = nullptr;
 };
 
-/// What belongs together stands on one card. The heading may be empty.
+/// Pixels between two cards.
+constexpr int cardGap = 16;
+
+/// What belongs together stands on one card.
 class Card : public QFrame {
     Q_OBJECT
 

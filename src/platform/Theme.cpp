@@ -98,6 +98,9 @@ QString StyleSheetOf(const Theme& theme) {
     };
     for (const auto& [name, color] : colors)
         sheet.replace(name, color.name());
+    // A style sheet can't colour a picture, so there is one for each scheme.
+    sheet.replace(u"$check"_s, &theme == &darkTheme ? u":/icons/check-dark.svg"_s
+                                                    : u":/icons/check-light.svg"_s);
     return sheet;
 }
 

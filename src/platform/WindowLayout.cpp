@@ -1,5 +1,6 @@
 #include "platform/WindowLayout.h"
 
+#include "platform/ProgramTitle.h"
 #include "platform/Theme.h"
 
 #include <QScreen>
@@ -27,22 +28,18 @@ void FitToDesktop(QWidget& window) {
 class Layouts : public QSettings {
 public:
     Layouts()
-        : QSettings(QSettings::IniFormat, QSettings::UserScope, u"tessel-delivery"_s,
+        : QSettings(QSettings::IniFormat, QSettings::UserScope, ProgramName(),
                     u"window-layout"_s) {}
 };
 
-QString KeyOf(const QWidget& window) {
-    return u"TesselDelivery/"_s + window.objectName();
-}
-
 } // namespace
 
-void WindowLayout::Restore(QWidget& window) {
-    if (!window.restoreGeometry(Layouts().value(KeyOf(window)).toByteArray()))
+void WindowLayout::Restore(QWidget& window, const QString& key) {
+    if (!window.restoreGeometry(Layouts().value(key).toByteArray()))
         window.resize(Em(defaultWidth), Em(defaultHeight));
     FitToDesktop(window);
 }
 
-void WindowLayout::Save(const QWidget& window) {
-    Layouts().setValue(KeyOf(window), window.saveGeometry());
+void WindowLayout::Save(const QWidget& window, const QString& key) {
+    Layouts().setValue(key, window.saveGeometry());
 }

@@ -60,8 +60,8 @@ void SalesItemLists::RefreshNonInventoriedItemLists() {
         const int row = fgAddItems.Rows();
         fgAddItems.SetRows(row + 1);
         fgAddItems.SetText(row, DescriptionColumn, names.last());
-        fgAddItems.SetText(row, PriceColumn, CurrencyText(Currency()));
-        fgAddItems.SetText(row, TotalColumn, CurrencyText(Currency()));
+        fgAddItems.SetText(row, PriceColumn, ZeroCurrencyText());
+        fgAddItems.SetText(row, TotalColumn, ZeroCurrencyText());
         SelectLastAddItem();
     }
     disk.CloseAllFiles();

@@ -1,6 +1,6 @@
 #include "schedule/InvoiceNumber.h"
 
-#include "store/Conversions.h"
+#include "store/Calendar.h"
 #include "store/TextLines.h"
 
 using namespace Qt::StringLiterals;
@@ -22,14 +22,11 @@ qint32 InvoiceNumber::LoadInvoiceNumber() {
         disk.CloseAllFiles();
     }
     if (number == 0)
-        number = ToInt32(QString::number(clock.Today().year()) + u"0001"_s);
+        number = FirstNumberOfYear(clock.Today());
     SaveInvoiceNumber(number);
     return number;
 }
 
 void InvoiceNumber::SaveInvoiceNumber(qint32 number) {
-    disk.DeleteWithBackup(invoiceNumberFile);
-    disk.OpenForOutput(invoiceNumberFile);
-    TextWriter(disk).Record(RecordLine().Number(number));
-    disk.CloseAllFiles();
+    RewriteFile(disk, invoiceNumberFile, {RecordLine().Number(number)});
 }

@@ -13,7 +13,7 @@ enum class TaxOption { PrimaryOnly, SecondaryOnly, Both };
 struct TaxOptions {
     struct Button {
         bool isOn = false;
-        bool isEnabled = false;
+        bool isEnabled = true;
     };
     std::array<Button, 3> buttons;
 

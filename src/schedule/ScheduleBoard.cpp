@@ -14,11 +14,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr ushort enterKey = 13;
-constexpr int itemColumns = 4;
-
-QString ZeroAmount() {
-    return CurrencyText(Currency());
-}
 
 /// Puts a day in the order in which it is driven: 08:30am has the key 230am, which sorts as 230.
 QString TimeSortKey(const QString& time) {
@@ -29,6 +24,14 @@ QString TimeSortKey(const QString& time) {
 
 QString SelectionMark() {
     return u" \u00ab"_s;
+}
+
+bool IsAbsence(const QString& text) {
+    for (const QString& word : {u"Vacation"_s, u"Holiday"_s, u"Personal Day"_s, u"Sick Day"_s}) {
+        if (text.contains(word))
+            return true;
+    }
+    return false;
 }
 
 ScheduleBoard::ScheduleBoard(BasicDiskRoutines& diskRoutines, DeliverySlipRoutines& slipRoutines,
@@ -56,13 +59,13 @@ void ScheduleBoard::Initform(const QString& firstVehicle) {
     if (!firstVehicle.isEmpty())
         ChooseVehicle(firstVehicle);
     fraSlip = {};
-    fraSlip.lblTotal = ZeroAmount();
-    fraSlip.lblCharge = ZeroAmount();
+    fraSlip.lblTotal = ZeroCurrencyText();
+    fraSlip.lblCharge = ZeroCurrencyText();
     fraSlip.lblInvoice = QString::number(invoiceNumber.LoadInvoiceNumber());
     SetTaxOptions(settings, optTax);
-    txtDeliveryCharge = settings.ckDeliveryCharge == 1 ? settings.txtDeliveryCharge : ZeroAmount();
-    fraSlip.lblTax1 = ZeroAmount();
-    fraSlip.lblTax2 = ZeroAmount();
+    txtDeliveryCharge = settings.ckDeliveryCharge == 1 ? settings.txtDeliveryCharge : ZeroCurrencyText();
+    fraSlip.lblTax1 = ZeroCurrencyText();
+    fraSlip.lblTax2 = ZeroCurrencyText();
 }
 
 void ScheduleBoard::ChangeDate(QDate date) {
@@ -97,7 +100,7 @@ int ScheduleBoard::AddRow(int row, int entry) {
     SetCell(row, ScheduleColumn::AccountNo, line(SlipLine::Account));
     SetCell(row, ScheduleColumn::SlipNo, line(SlipLine::SlipNumber));
     SetCell(row, ScheduleColumn::Time, line(SlipLine::Time));
-    SetCell(row, ScheduleColumn::DeliveryCharge, ZeroAmount());
+    SetCell(row, ScheduleColumn::DeliveryCharge, ZeroCurrencyText());
     SetCell(row, ScheduleColumn::Recurring, line(SlipLine::Recurring));
     SetCell(row, ScheduleColumn::Frequency, FrequencyLabel(line(SlipLine::Frequency)));
     SetCell(row, ScheduleColumn::TimeSortKey, TimeSortKey(line(SlipLine::Time)));
@@ -182,7 +185,7 @@ ScheduleBoard::ChargeEntry ScheduleBoard::EnterCharge() {
 }
 
 void ScheduleBoard::ClearCharge() {
-    txtDeliveryCharge = ZeroAmount();
+    txtDeliveryCharge = ZeroCurrencyText();
 }
 
 void ScheduleBoard::MultiplyCells(int row) {
@@ -260,7 +263,7 @@ void ScheduleBoard::LoadSlipItems(const QString& slipNo) {
         // By fields, as the file is read: a comma in a description or an amount shifts what
         // follows by one place.
         for (int row = 1; row <= count; ++row) {
-            for (int column = 0; column < itemColumns; ++column)
+            for (int column = 0; column < slipItemColumns; ++column)
                 fgItems.SetText(row, column, reader.Text());
         }
     }
@@ -269,5 +272,8 @@ void ScheduleBoard::LoadSlipItems(const QString& slipNo) {
 }
 
 QString ScheduleBoard::PanelCaption() const {
-    return u"Delivery Slip "_s + slips.Table.Text(SlipLine::SlipNumber, fgSchedule.CurrentRow());
+    const int entry = fgSchedule.CurrentRow();
+    const bool isInTable = entry >= 1 && entry <= slips.SlipCount;
+    return u"Delivery Slip "_s +
+           (isInTable ? slips.Table.Text(SlipLine::SlipNumber, entry) : QString());
 }

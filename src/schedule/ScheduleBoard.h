@@ -29,6 +29,9 @@ enum class ScheduleColumn {
 /// What stands in column 0 of a marked row.
 QString SelectionMark();
 
+/// Whether an entry of a work schedule tells of an absence rather than of work.
+bool IsAbsence(const QString& text);
+
 /// The dispatcher's day: the slips of one vehicle on one date, which of them are marked, and the
 /// slip whose contents are looked at. It is the working copy behind the board's screen; of what is
 /// entered here, nothing reaches a slip's files.
@@ -84,7 +87,7 @@ public:
     /// Fills fraSlip and fgItems from the slip's two files.
     void LoadSlipPanel(const QString& slipNo);
     /// "Delivery Slip " and the slip table's entry at the position of the grid's current row. The
-    /// table is in folder order and the grid in time order, so it need not be the row's slip.
+    /// table is in folder order and the grid in time order, so it need not be the row's slip; no number when there is no such entry.
     QString PanelCaption() const;
 
 private:

@@ -10,8 +10,8 @@
 #include "store/Conversions.h"
 #include "store/VerifyDataRoutines.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -25,23 +25,27 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int cardGap = 12;
 constexpr int bodySide = 20;
 constexpr int bodyTop = 14;
 constexpr double sideWidth = 16.5;
 constexpr double workScheduleHeight = 5.2;
 constexpr double itemsHeight = 7;
 constexpr int addressLines = 6;
-
-QString ZeroAmount() {
-    return CurrencyText(Currency());
-}
+constexpr double logoSize = 1.75;
 
 QListView* MakeList(const QString& name, const QString& accessibleName) {
     auto* list = Named(new QListView, name);
     list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     list->setAccessibleName(accessibleName);
     return list;
+}
+
+QLabel* MakeLogo() {
+    auto* imgLogo = Named(new QLabel, u"imgLogo"_s);
+    const QSize size(Em(logoSize), Em(logoSize));
+    imgLogo->setPixmap(
+        LineIcon(u"truck"_s, Theme::Current().accent, size, imgLogo->devicePixelRatioF()));
+    return imgLogo;
 }
 
 QLabel* SoftLabel(const QString& text) {
@@ -91,6 +95,7 @@ frmPrintSchedules::frmPrintSchedules(Office& theOffice, Screens& allScreens)
 QPushButton* frmPrintSchedules::MakeButton(Button index, const QString& caption,
                                            const QString& tip) {
     auto* button = Named(new QPushButton(caption), Indexed(u"cmdPrint"_s, index));
+    button->setAutoDefault(true);
     button->setToolTip(tip);
     connect(button, &QPushButton::clicked, this, [this, index] { cmdPrint_Click(index); });
     cmdPrint[index] = button;
@@ -118,8 +123,15 @@ QWidget* frmPrintSchedules::MakeDateCard() {
     row->addWidget(DTPicker1, 1);
     row->addWidget(upDown);
     card->Rows()->addLayout(row);
-    card->Rows()->addWidget(lblWeekday);
+    auto* day = new QHBoxLayout;
+    day->addWidget(lblWeekday, 1);
+    day->addWidget(MakeLogo());
+    card->Rows()->addLayout(day);
     connect(DTPicker1, &DatePicker::Changed, this, &frmPrintSchedules::DTPicker1_Change);
+    connect(DTPicker1, &DatePicker::Refused, this, [this] {
+        if (office.settings.AlarmOn)
+            office.machine.user.Beep();
+    });
     connect(upDown, &UpDown::UpClick, this,
             [this] { DTPicker1_Change(DaysLater(board.DTPicker1, 1)); });
     connect(upDown, &UpDown::DownClick, this,
@@ -135,6 +147,8 @@ QWidget* frmPrintSchedules::MakeVehicleCard() {
     card->Rows()->addWidget(lstVehicles, 1);
     connect(lstVehicles->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &frmPrintSchedules::lstVehicles_Click);
+    // A click on the vehicle already chosen loads its deliveries anew.
+    connect(lstVehicles, &QListView::clicked, this, &frmPrintSchedules::lstVehicles_Click);
     return card;
 }
 
@@ -152,6 +166,8 @@ QWidget* frmPrintSchedules::MakeChargeCard() {
     card->Rows()->addLayout(row);
     connect(txtDeliveryCharge, &QLineEdit::textChanged, this,
             [this](const QString& text) { board.txtDeliveryCharge = text; });
+    connect(txtDeliveryCharge, &QLineEdit::returnPressed, this,
+            &frmPrintSchedules::cmdPrint_EnterToGrid);
     return card;
 }
 
@@ -230,8 +246,8 @@ QWidget* frmPrintSchedules::MakeSlipPanel() {
     fgItems->setMinimumHeight(Em(itemsHeight));
     auto* contents = new QHBoxLayout;
     contents->setSpacing(cardGap);
-    contents->addWidget(MakeSlipAddresses());
-    contents->addWidget(fgItems, 1);
+    contents->addWidget(MakeSlipAddresses(), 2);
+    contents->addWidget(fgItems, 3);
     auto* head = new QHBoxLayout;
     head->addWidget(fraSlip->Heading());
     head->addStretch(1);
@@ -275,9 +291,10 @@ QWidget* frmPrintSchedules::MakeAmount(const QString& heading, const QString& na
     auto* rows = new QVBoxLayout(block);
     rows->setContentsMargins({});
     rows->setSpacing(0);
-    rows->addWidget(SoftLabel(heading));
+    rows->addWidget(SoftLabel(heading), 0, Qt::AlignRight);
     auto* amount = MakeCaption(name);
     amount->setProperty("strong", true);
+    amount->setAlignment(Qt::AlignRight);
     rows->addWidget(amount);
     return block;
 }
@@ -298,8 +315,10 @@ QWidget* frmPrintSchedules::MakeSlipAmounts() {
     for (int i = 1; i <= 2; ++i) {
         QLabel* heading = MakeCaption(u"lblTaxHeading"_s + QString::number(i));
         heading->setProperty("soft", true);
+        heading->setAlignment(Qt::AlignRight);
         QLabel* amount = MakeCaption(u"lblTax"_s + QString::number(i));
         amount->setProperty("strong", true);
+        amount->setAlignment(Qt::AlignRight);
         taxes->addWidget(heading, 0, i - 1);
         taxes->addWidget(amount, 1, i - 1);
     }
@@ -312,9 +331,12 @@ QWidget* frmPrintSchedules::MakeSlipAmounts() {
 }
 
 void frmPrintSchedules::Activate() {
-    // The table may still hold slips that have been deleted or moved since it was taken, by the
-    // start's look at past slips for one.
-    office.slips.LoadSlips(false);
+    {
+        // The table may still hold slips that have been deleted or moved since it was taken, by
+        // the start's look at past slips for one.
+        const BusyPointer busy(office.machine.user);
+        office.slips.LoadSlips(false);
+    }
     if (!isPrepared) {
         isPrepared = true;
         Initform();
@@ -329,6 +351,7 @@ void frmPrintSchedules::Initform() {
         lstVehicles->setCurrentIndex(first);
     }
     ShowBoard();
+    ShowSlip();
     cmdPrint[ToggleSlip]->setEnabled(false);
     ShowTaxOptions();
     ckPopulated->setChecked(office.settings.ckPopulateInvoices == 1);
@@ -430,7 +453,7 @@ bool frmPrintSchedules::txtDeliveryCharge_KeyPress(ushort key) {
     if (key == u'.' && text.contains(u'.'))
         user.Beep();
     const ushort passed = FilterNumericKey(key, text, user);
-    if (text == ZeroAmount())
+    if (text == ZeroCurrencyText())
         txtDeliveryCharge->clear();
     return passed != 0;
 }
@@ -504,4 +527,7 @@ void frmPrintSchedules::cmdPrint_ToggleSlip() {
     fraSlip->setVisible(!fraSlip->isVisible());
     fraInvoiceNo->show();
     fraSlip->Heading()->setText(board.PanelCaption());
+    // The panel takes room from the grid; the row it is about stays in sight.
+    QCoreApplication::sendPostedEvents(Body(), QEvent::LayoutRequest);
+    fgSchedule->scrollTo(fgSchedule->currentIndex());
 }

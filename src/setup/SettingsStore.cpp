@@ -21,19 +21,6 @@ const QString logoSettingsFile = u"/LogoSettings.txt"_s;
 constexpr float defaultLogoSize = 1440;
 constexpr float largestLogoSize = 2880;
 
-void WriteFile(BasicDiskRoutines& disk, const QString& name, const QList<RecordLine>& lines) {
-    disk.OpenForOutput(name);
-    TextWriter writer(disk);
-    for (const RecordLine& line : lines)
-        writer.Record(line);
-    disk.CloseAllFiles();
-}
-
-void RewriteFile(BasicDiskRoutines& disk, const QString& name, const QList<RecordLine>& lines) {
-    disk.DeleteWithBackup(name);
-    WriteFile(disk, name, lines);
-}
-
 float LogoSize(float size) {
     return size > largestLogoSize ? defaultLogoSize : size;
 }
@@ -74,7 +61,7 @@ void SettingsStore::SaveBusinessData() {
     RecordLine line;
     for (const QString& field : settings.BusinessData)
         line.Text(field);
-    WriteFile(disk, businessDataFile, {line});
+    WriteRecordLines(disk, businessDataFile, {line});
 }
 
 void SettingsStore::LoadPrompts() {
@@ -96,7 +83,7 @@ void SettingsStore::SavePrompts() {
     settings.AlarmOn = settings.ckAlarms;
     // Only the file itself goes: a copy in Backup stays.
     disk.KillFile(promptsFile);
-    WriteFile(disk, promptsFile,
+    WriteRecordLines(disk, promptsFile,
               {RecordLine().Boolean(settings.PromptsOn).Boolean(settings.AlarmOn)});
 }
 
@@ -187,12 +174,12 @@ void SettingsStore::LoadLogoSettings() {
 }
 
 void SettingsStore::SaveLogoSettings() {
-    WriteFile(disk, logoSettingsFile,
+    WriteRecordLines(disk, logoSettingsFile,
               {RecordLine().Single(settings.logoWidth).Single(settings.logoHeight)});
 }
 
 void SettingsStore::LoadDeliverySettings() {
-    const QString zero = CurrencyText(Currency());
+    const QString zero = ZeroCurrencyText();
     if (!disk.FileExists(deliverySettingsFile)) {
         settings.ckColor = 0;
         settings.ckDelete = 1;

@@ -44,6 +44,7 @@ frmSplash::frmSplash(Office& theOffice, Screens& allScreens)
       screens(allScreens) {
     fraWelcome = MakeWelcome();
     auto* columns = new QHBoxLayout(Body());
+    columns->setSpacing(2 * cardGap);
     columns->addStretch(1);
     columns->addWidget(MakeTitle(), 0, Qt::AlignVCenter);
     columns->addWidget(fraWelcome, 0, Qt::AlignVCenter);
@@ -51,7 +52,7 @@ frmSplash::frmSplash(Office& theOffice, Screens& allScreens)
 
     cmdContinue = Named(new QPushButton(u"Continue"_s), u"cmdContinue"_s);
     cmdContinue->setToolTip(u"Starts the Program"_s);
-    cmdContinue->setDefault(true);
+    cmdContinue->setAutoDefault(true);
     connect(cmdContinue, &QPushButton::clicked, this, &frmSplash::cmdContinue_Click);
     AddMainAction(cmdContinue);
     cmdContinue->setFocus();

@@ -17,15 +17,16 @@ const QString deliveriesFolder = u"/TesselDelivery/Deliveries"_s;
 const QString temporaryHeader = u"/TesselDelivery/Deliveries/TempFile.txt"_s;
 const QString counterFile = u"/NQDeliveryNo.txt"_s;
 
-constexpr int itemColumns = 4;
-
 QString DateLineOf(const QString& fileName) {
     return u"reading the delivery date in TesselDelivery/Deliveries/"_s + fileName;
 }
 
-/// The number in the counter file, or 0 when it holds none that is good.
+/// The number in the counter file, or 0 when it holds none that is good. The file's form is the
+/// same in every region.
 qint32 CounterValue(const QString& text) {
-    return IsNumeric(text) ? ToInt32(text, u"reading NQDeliveryNo.txt"_s) : 0;
+    bool isNumber = false;
+    const double number = text.trimmed().toDouble(&isNumber);
+    return isNumber ? ToInt32(number, u"reading NQDeliveryNo.txt"_s) : 0;
 }
 
 } // namespace
@@ -37,8 +38,8 @@ const QString& SlipTable::Text(SlipLine line, int entry) const {
     return entries[size_t(entry) - 1][size_t(line) - 1];
 }
 
-void SlipTable::Set(SlipLine line, int entry, const QString& text) {
-    entries.at(size_t(entry) - 1)[size_t(line) - 1] = text;
+void SlipTable::Set(SlipLine line, int entry, QString text) {
+    entries.at(size_t(entry) - 1)[size_t(line) - 1] = std::move(text);
 }
 
 void SlipTable::Grow(int count) {
@@ -69,7 +70,7 @@ void DeliverySlipRoutines::LoadDeliveryNo() {
         disk.CloseAllFiles();
     }
     if (NextSlipNumber == 0)
-        NextSlipNumber = ToInt32(QString::number(clock.Today().year()) + u"0001"_s);
+        NextSlipNumber = FirstNumberOfYear(clock.Today());
     SaveDeliveryNo(NextSlipNumber);
 }
 
@@ -83,10 +84,7 @@ void DeliverySlipRoutines::UpdateDeliveryCounter() {
 }
 
 void DeliverySlipRoutines::SaveDeliveryNo(qint32 value) {
-    disk.DeleteWithBackup(counterFile);
-    disk.OpenForOutput(counterFile);
-    TextWriter(disk).Record(RecordLine().Number(value));
-    disk.CloseAllFiles();
+    RewriteFile(disk, counterFile, {RecordLine().Number(value)});
 }
 
 void DeliverySlipRoutines::LoadSlips(bool processPast) {
@@ -125,31 +123,31 @@ void DeliverySlipRoutines::ProcessPastSlips(const std::vector<QString>& names) {
 }
 
 void DeliverySlipRoutines::WriteSlipHeader(const SlipHeader& header) {
-    const QString name = HeaderFile(header.table[0].trimmed());
+    const QString name = HeaderFile(TrimBlanks(header.table[0]));
     disk.KillFile(name);
     disk.OpenForOutput(name);
     TextWriter writer(disk);
     for (const QString& line : header.table)
-        writer.Plain(line);
+        writer.Plain(TrimBlanks(line));
     for (const QString& line : header.soldTo)
-        writer.Quoted(line);
+        writer.Quoted(TrimBlanks(line));
     for (const QString& line : header.deliverTo)
-        writer.Quoted(line);
+        writer.Quoted(TrimBlanks(line));
 }
 
 void DeliverySlipRoutines::WriteSlipItems(const GridModel& grid, const QString& slipNo,
                                           qint16 count, const QString& total) {
-    const QString number = slipNo.trimmed();
+    const QString number = TrimBlanks(slipNo);
     disk.KillFile(ItemFile(number));
     disk.OpenForOutput(ItemFile(number));
     TextWriter writer(disk);
     writer.Plain(number);
     writer.Plain(QString::number(count));
     for (int row = 1; row <= count; ++row) {
-        for (int column = 0; column < itemColumns; ++column)
+        for (int column = 0; column < slipItemColumns; ++column)
             writer.Plain(grid.Text(row, column));
     }
-    writer.Quoted(total.isEmpty() ? CurrencyText(Currency()) : total);
+    writer.Quoted(total.isEmpty() ? ZeroCurrencyText() : total);
     disk.CloseAllFiles();
 }
 
@@ -185,8 +183,8 @@ bool DeliverySlipRoutines::IsSlotFree(QDate date, const QString& time,
     for (int entry = 1; entry <= SlipCount; ++entry) {
         const QString fileName = Table.Text(SlipLine::SlipNumber, entry) + u".txt"_s;
         if (ToDate(Table.Text(SlipLine::Date, entry), DateLineOf(fileName)) == date &&
-            Table.Text(SlipLine::Time, entry).trimmed() == time &&
-            Table.Text(SlipLine::Vehicle, entry).trimmed() == vehicle)
+            TrimBlanks(Table.Text(SlipLine::Time, entry)) == time &&
+            TrimBlanks(Table.Text(SlipLine::Vehicle, entry)) == vehicle)
             return true;
     }
     return true;

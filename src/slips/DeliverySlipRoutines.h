@@ -29,13 +29,15 @@ enum class SlipLine {
 constexpr int slipTableLines = 10;
 /// Quoted lines behind them: six of the sold-to address, six of the deliver-to address.
 constexpr int slipAddressLines = 12;
+/// Columns of an item: units, description, unit price, line total.
+constexpr int slipItemColumns = 4;
 
 /// All slips in the folder, by header line and entry; entries count from 1. It is a picture taken
 /// by LoadSlips, stale until the next one.
 class SlipTable {
 public:
     const QString& Text(SlipLine line, int entry) const;
-    void Set(SlipLine line, int entry, const QString& text);
+    void Set(SlipLine line, int entry, QString text);
     /// Makes room for entries 1 to `count`; what is there stays.
     void Grow(int count);
 
@@ -75,7 +77,7 @@ public:
     /// before today goes through ProcessPastSlip; the table then still shows it as it was.
     void LoadSlips(bool processPast);
 
-    /// Writes the 22 header lines, replacing the slip file of that number, and leaves it open: the
+    /// Writes the 22 header lines without blanks at their ends, replacing the slip file of that number, and leaves it open: the
     /// item file's writer, which follows, closes it.
     void WriteSlipHeader(const SlipHeader& header);
     /// Writes the item file from rows 1 to `count` of a grid, columns 0 to 3: units, description,

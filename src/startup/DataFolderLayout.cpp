@@ -1,6 +1,7 @@
 #include "startup/DataFolderLayout.h"
 
 #include "customers/CustomerRecords.h"
+#include "platform/ProgramTitle.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,7 +30,7 @@ void CreateFolders(BasicDiskRoutines& disk, const Clock& clock) {
     disk.MakeFolder(u"/Backup"_s);
     disk.MakeFolder(u"/NXActiveAccounts"_s);
     disk.MakeFolder(u"/Backup/NXActiveAccounts"_s);
-    disk.MakeFolder(u"/Backup/tessel-delivery"_s);
+    disk.MakeFolder(u"/Backup/"_s + ProgramName());
     disk.MakeFolder(u"/Templates"_s);
     disk.MakeFolder(u"/AuxFiles"_s);
     CreateAccountFolders(disk);

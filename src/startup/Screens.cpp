@@ -52,9 +52,7 @@ void Screens::Show(ScreenName name) {
     Screen* screen = Find(name);
     if (!screen)
         return;
-    screen->show();
-    screen->raise();
-    screen->activateWindow();
+    screen->BringUp();
     screen->Activate();
 }
 
@@ -64,12 +62,12 @@ void Screens::Hide(ScreenName name) {
 }
 
 void Screens::Destroy(ScreenName name) {
-    // Later: the screen asks for it from one of its own reactions.
     const auto found = std::find_if(loaded.begin(), loaded.end(),
                                     [&](const Loaded& entry) { return entry.name == name; });
     if (found == loaded.end())
         return;
     found->screen->hide();
+    // Not at once: a screen asks for its own end from one of its reactions.
     found->screen.release()->deleteLater();
     loaded.erase(found);
 }
@@ -79,9 +77,6 @@ void Screens::GoFrom(ScreenName from, ScreenName to) {
         TellNotBuilt();
         return;
     }
-    Create(to);
-    if (const Screen* left = Find(from))
-        Find(to)->setGeometry(left->geometry());
     Hide(from);
     Show(to);
 }

@@ -1,10 +1,14 @@
 #include "startup/StartUp.h"
 
+#include "platform/FolderLock.h"
+#include "platform/ProgramTitle.h"
 #include "startup/DataFolderLayout.h"
 #include "startup/Office.h"
 #include "startup/Screens.h"
 
 #include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -16,7 +20,13 @@ void Repaint(Screens& screens) {
 
 } // namespace
 
-void StartUp(Office& office, Screens& screens) {
+bool CheckSingleInstance(const FolderLock& lock, Operator& user) {
+    if (!lock.IsHeld())
+        user.MsgBox(ProgramTitle() + u" is already Running!\nLook for it on the Task Bar"_s);
+    return lock.IsHeld();
+}
+
+void Main(Office& office, Screens& screens) {
     office.settingsStore.LoadAll();
     screens.Create(ScreenName::frmSetup);
     screens.Show(ScreenName::frmSplash);

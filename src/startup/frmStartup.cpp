@@ -19,7 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int columnGap = 16;
 constexpr int rowGap = 10;
 constexpr int bodyMargin = 20;
 
@@ -72,7 +71,7 @@ frmStartup::frmStartup(Office& theOffice, Screens& allScreens)
     lblSub[ViewScheduled]->SetNote(note);
 
     auto* columns = new QHBoxLayout;
-    columns->setSpacing(columnGap);
+    columns->setSpacing(cardGap);
     columns->addLayout(
         MakeColumn(u"Delivery Routines"_s, {PrintSchedules, ViewScheduled, ScheduleDelivery}), 1);
     columns->addLayout(
@@ -81,8 +80,8 @@ frmStartup::frmStartup(Office& theOffice, Screens& allScreens)
 
     fraNoCustomerFound = MakeNoCustomerPanel();
     auto* rows = new QVBoxLayout(Body());
-    rows->setContentsMargins(bodyMargin, columnGap, bodyMargin, columnGap);
-    rows->setSpacing(columnGap);
+    rows->setContentsMargins(bodyMargin, cardGap, bodyMargin, cardGap);
+    rows->setSpacing(cardGap);
     rows->addLayout(columns);
     rows->addWidget(fraNoCustomerFound, 0, Qt::AlignLeft);
     rows->addStretch(1);
@@ -115,6 +114,8 @@ QWidget* frmStartup::MakeNoCustomerPanel() {
     auto* cmdCancel = Named(new QPushButton(u"Cancel"_s), u"cmdCancel"_s);
     connect(cmdGoto, &QPushButton::clicked, this, &frmStartup::cmdGoto_Click);
     connect(cmdCancel, &QPushButton::clicked, this, &frmStartup::cmdCancel_Click);
+    cmdGoto->setAutoDefault(true);
+    cmdCancel->setAutoDefault(true);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(cmdGoto);
     buttons->addWidget(cmdCancel);

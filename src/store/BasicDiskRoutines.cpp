@@ -48,18 +48,23 @@ private:
     int descriptor;
 };
 
-/// A name as messages show it: relative, with plain separators.
-QString Shown(const QString& name) {
-    QString shown;
-    shown.reserve(name.size());
-    for (const QChar character : name) {
-        const bool isSeparator = character == u'/' || character == u'\\';
+/// Brings a name to the one form it has on disk and in messages: relative, with single slashes.
+template <typename Text>
+Text Relative(Text name) {
+    using Character = typename Text::value_type;
+    constexpr Character slash(u'/');
+    constexpr Character otherSlash(u'\\');
+    auto* const start = name.data();
+    auto* end = start;
+    for (const Character character : std::as_const(name)) {
+        const bool isSeparator = character == slash || character == otherSlash;
         if (!isSeparator)
-            shown += character;
-        else if (!shown.isEmpty() && shown.back() != u'/')
-            shown += u'/';
+            *end++ = character;
+        else if (end > start && end[-1] != slash)
+            *end++ = slash;
     }
-    return shown;
+    name.truncate(end - start);
+    return name;
 }
 
 QString Reading(const QString& name) {
@@ -106,12 +111,10 @@ size_t ReadSome(int descriptor, char* buffer, size_t size, const QString& name) 
 
 QByteArray ReadText(int descriptor, const QString& name) {
     QByteArray content;
+    std::array<char, readStep> buffer;
     for (;;) {
-        const qsizetype before = content.size();
-        content.resize(before + readStep);
-        const auto count =
-            qsizetype(ReadSome(descriptor, content.data() + before, size_t(readStep), name));
-        content.resize(before + count);
+        const auto count = qsizetype(ReadSome(descriptor, buffer.data(), buffer.size(), name));
+        content.append(buffer.data(), count);
         if (content.size() > largestText)
             throw RuntimeFailure(FailureKind::FileTooLarge,
                                  Reading(name) + u" failed: the file is larger than 16 MB."_s);
@@ -119,6 +122,18 @@ QByteArray ReadText(int descriptor, const QString& name) {
         if (count < readStep)
             return content;
     }
+}
+
+bool LeavesFolder(const QByteArray& path) {
+    return path.contains("..") && path.split('/').contains("..");
+}
+
+/// Not every file system tells the type of an entry in the listing.
+bool IsFolder(int parent, const dirent& entry) {
+    if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK)
+        return entry.d_type == DT_DIR;
+    struct stat status {};
+    return ::fstatat(parent, entry.d_name, &status, 0) == 0 && S_ISDIR(status.st_mode);
 }
 
 bool HasWildcard(const QString& name) {
@@ -147,6 +162,10 @@ RuntimeFailure NotOpen(qint16 fileNumber) {
 
 } // namespace
 
+QString Shown(const QString& name) {
+    return Relative(name);
+}
+
 BasicDiskRoutines::BasicDiskRoutines(const QString& folderPath) : dataFolder(folderPath) {
     folder = ::open(QFile::encodeName(folderPath).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder < 0)
@@ -159,14 +178,11 @@ BasicDiskRoutines::~BasicDiskRoutines() {
 }
 
 QByteArray BasicDiskRoutines::PathOf(const QString& name) const {
-    const QString path = Shown(name);
-    bool leaves = path.contains(QChar::Null);
-    for (const QStringView part : QStringView(path).tokenize(u'/'))
-        leaves = leaves || part == ".."_L1;
-    if (leaves)
+    const QByteArray path = Relative(QFile::encodeName(name));
+    if (path.contains('\0') || LeavesFolder(path))
         throw RuntimeFailure(FailureKind::BadFileName,
                              u"The name \"%1\" would lead out of the data folder."_s.arg(name));
-    return path.isEmpty() ? QByteArray(".") : QFile::encodeName(path);
+    return path.isEmpty() ? QByteArray(".") : path;
 }
 
 int BasicDiskRoutines::Open(const QString& name, int flags, const char* purpose) const {
@@ -260,7 +276,7 @@ qint16 BasicDiskRoutines::RecordCount(const QString& name, qint16 recordLength) 
 void BasicDiskRoutines::OpenForInput(const QString& name) {
     const qint16 number = FreeFileNumber();
     const Descriptor source(Open(name, O_RDONLY, "reading"));
-    inputs.insert({number, {ReadText(source.Get(), name), 0, Shown(name)}});
+    inputs.insert({number, {ReadText(source.Get(), name), 0, name}});
     DiskFile = number;
 }
 
@@ -408,8 +424,8 @@ std::vector<QString> BasicDiskRoutines::ListFiles(const QString& folderName,
     const QByteArray match = QFile::encodeName(pattern).replace("[", "[[]");
     std::vector<QByteArray> names;
     for (errno = 0; const dirent* entry = ::readdir(listing.get()); errno = 0) {
-        if (entry->d_type != DT_DIR &&
-            ::fnmatch(match.constData(), entry->d_name, FNM_NOESCAPE) == 0)
+        if (::fnmatch(match.constData(), entry->d_name, FNM_NOESCAPE) == 0 &&
+            !IsFolder(descriptor, *entry))
             names.emplace_back(entry->d_name);
     }
     if (errno != 0)

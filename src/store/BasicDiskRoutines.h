@@ -7,6 +7,9 @@
 #include <sys/types.h>
 #include <vector>
 
+/// The name of a data file as messages show it: relative, with single slashes.
+QString Shown(const QString& name);
+
 /// The one door to the data files. A `name` is a path under the data folder, beginning with a
 /// separator; "/" and "\" both separate, also doubled. A name that would leave the data folder is
 /// refused as a failure of kind BadFileName.

@@ -44,6 +44,11 @@ QDate MonthsLater(QDate date, int months) {
     return WithinCalendar(date.addMonths(months));
 }
 
+qint32 FirstNumberOfYear(QDate today) {
+    constexpr int numbersInYear = 10'000;
+    return today.year() * numbersInYear + 1;
+}
+
 QDate& SkipNonWorkDay(QDate& date, qint16 workWeek) {
     switch (workWeek) {
     case MondayToFriday:
@@ -75,8 +80,9 @@ bool Calendar::IsHoliday(QDate date) {
         return false;
     disk.OpenForInput(holidays);
     TextReader reader(disk);
+    const QDateTime midnight(date, QTime(0, 0), Qt::UTC);
     while (!reader.AtEnd()) {
-        if (reader.Date() == date)
+        if (reader.Date() == midnight)
             return true;
     }
     return false;

@@ -25,6 +25,9 @@ QDate DaysLater(QDate date, int days);
 /// The same for calendar months: the day of the month stays, or falls to the target month's last.
 QDate MonthsLater(QDate date, int months);
 
+/// Where a series of numbers begins that has none yet: 20260001 in 2026.
+qint32 FirstNumberOfYear(QDate today);
+
 /// Moves a date that is no work day forward to one; holidays play no part.
 QDate& SkipNonWorkDay(QDate& date, qint16 workWeek);
 

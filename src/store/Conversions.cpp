@@ -195,6 +195,16 @@ bool IsDate(QStringView text) {
     return RegionalFormats::Current().ParseDate(text).has_value();
 }
 
+QString TrimBlanks(const QString& text) {
+    qsizetype start = 0;
+    qsizetype end = text.size();
+    while (start < end && text[start] == u' ')
+        ++start;
+    while (end > start && text[end - 1] == u' ')
+        --end;
+    return text.mid(start, end - start);
+}
+
 double LeadingNumber(QStringView text) {
     QByteArray number;
     bool afterPoint = false;
@@ -202,8 +212,7 @@ double LeadingNumber(QStringView text) {
         if (character == u' ')
             continue;
         const bool isPoint = character == u'.' && !afterPoint;
-        const bool isSign = (character == u'-' || character == u'+') && number.isEmpty();
-        if (!isPoint && !isSign && (character < u'0' || character > u'9'))
+        if (!isPoint && (character < u'0' || character > u'9'))
             break;
         afterPoint = afterPoint || isPoint;
         number += char(character.unicode());
@@ -232,6 +241,10 @@ QString CurrencyText(double amount) {
 
 QString CurrencyText(QStringView text, const QString& where) {
     return CurrencyTextOf(DecimalOf(PlainNumberOf(text, where)), text, where);
+}
+
+QString ZeroCurrencyText() {
+    return CurrencyText(Currency());
 }
 
 QString ShortDateText(QDate date) {

@@ -31,8 +31,11 @@ qint32 ToInt32(double number, const QString& where = {});
 bool IsNumeric(QStringView text);
 bool IsDate(QStringView text);
 
+/// A text without the blanks at its ends; other white space stays.
+QString TrimBlanks(const QString& text);
+
 /// The number that a text begins with: blanks skipped, digits with a point as decimal mark; 0
-/// when there is none. So "6.25" is 6.25, "1,5" is 1 and "abc" is 0, in every region.
+/// when there is none, also for a sign. So "6.25" is 6.25, "1,5" is 1 and "abc" is 0, in every region.
 double LeadingNumber(QStringView text);
 
 /// An amount in the regional currency form, rounded half away from zero to the currency's
@@ -41,6 +44,9 @@ QString CurrencyText(Currency amount);
 QString CurrencyText(double amount);
 /// The same of a text that holds a number.
 QString CurrencyText(QStringView text, const QString& where = {});
+
+/// What an amount that has not been entered shows: the currency text of 0.
+QString ZeroCurrencyText();
 
 QString ShortDateText(QDate date);
 

@@ -2,6 +2,7 @@
 
 #include "platform/CodePage.h"
 #include "store/BasicDiskRoutines.h"
+#include "store/Conversions.h"
 #include "store/Currency.h"
 
 #include <QDate>
@@ -30,13 +31,9 @@ struct FixedText {
 
     /// All characters, blanks and NUL characters included.
     QString Whole() const { return FromCodePage({bytes.data(), qsizetype(Width)}); }
-    /// As readers take it: without leading and trailing blanks, and nothing of a field that was
-    /// never assigned.
-    QString Trimmed() const {
-        QString text = Whole();
-        text.truncate(text.indexOf(QChar::Null) < 0 ? text.size() : text.indexOf(QChar::Null));
-        return text.trimmed();
-    }
+    /// As readers take it: without leading and trailing blanks. A field that was never assigned
+    /// holds NUL characters, which are no blanks.
+    QString Trimmed() const { return TrimBlanks(Whole()); }
 };
 
 template <typename Integer>

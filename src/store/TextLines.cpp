@@ -14,9 +14,9 @@ namespace {
 constexpr QByteArrayView lineEnd = "\r\n";
 
 RuntimeFailure PastEnd(const BasicDiskRoutines::Input& input) {
-    return {
-        FailureKind::ReadPastEnd,
-        u"Reading %1 failed: the file ends before all of its values were read."_s.arg(input.name)};
+    return {FailureKind::ReadPastEnd,
+            u"Reading %1 failed: the file ends before all of its values were read."_s.arg(
+                Shown(input.name))};
 }
 
 bool IsLineEnd(const BasicDiskRoutines::Input& input, qsizetype position) {
@@ -107,14 +107,15 @@ QString TextReader::Text() {
 }
 
 QString TextReader::Quoted(const QByteArray& field) const {
-    return u"Reading %1 failed: \"%2\" is not "_s.arg(routines.InputOn(number).name,
+    return u"Reading %1 failed: \"%2\" is not "_s.arg(Shown(routines.InputOn(number).name),
                                                       FromCodePage(field.left(60)));
 }
 
 double TextReader::Number(const QByteArray& field) const {
     bool isNumber = false;
     const double value = field.trimmed().toDouble(&isNumber);
-    if (!isNumber || std::isnan(value))
+    const bool isTooLarge = !isNumber && std::isinf(value);
+    if ((!isNumber && !isTooLarge) || std::isnan(value))
         throw RuntimeFailure(FailureKind::TypeMismatch, Quoted(field) + u"a number."_s);
     return value;
 }
@@ -164,15 +165,17 @@ bool TextReader::Boolean() {
     throw RuntimeFailure(FailureKind::TypeMismatch, Quoted(field) + u"#TRUE# or #FALSE#."_s);
 }
 
-QDate TextReader::Date() {
+QDateTime TextReader::Date() {
     const QByteArray field = NextField();
     const QString text = FromCodePage(field.trimmed());
     if (text.startsWith(u'#') && text.endsWith(u'#') && text.size() > 2) {
         const QString value = text.mid(1, text.size() - 2);
         const QDate date = QDate::fromString(value.section(u' ', 0, 0), u"yyyy-MM-dd");
-        const QString time = value.section(u' ', 1);
-        if (date.isValid() && (time.isEmpty() || QTime::fromString(time, u"hh:mm:ss").isValid()))
-            return date;
+        const QString timeText = value.section(u' ', 1);
+        const QTime time =
+            timeText.isEmpty() ? QTime(0, 0) : QTime::fromString(timeText, u"hh:mm:ss");
+        if (date.isValid() && time.isValid())
+            return {date, time, Qt::UTC};
     }
     throw RuntimeFailure(FailureKind::TypeMismatch, Quoted(field) + u"a date."_s);
 }
@@ -194,7 +197,15 @@ RecordLine& RecordLine::Number(qint64 value) {
 
 RecordLine& RecordLine::Single(float value) {
     constexpr int significantDigits = 7;
-    return Add(QByteArray::number(double(value), 'g', significantDigits));
+    const int wholeDigits =
+        value == 0.0F ? 1 : int(std::floor(std::log10(std::abs(double(value))))) + 1;
+    const int decimals = std::max(0, significantDigits - wholeDigits);
+    QByteArray text = QByteArray::number(double(value), 'f', decimals);
+    while (decimals > 0 && text.endsWith('0'))
+        text.chop(1);
+    if (text.endsWith('.'))
+        text.chop(1);
+    return Add(text);
 }
 
 RecordLine& RecordLine::Boolean(bool value) {
@@ -224,6 +235,20 @@ void TextWriter::Quoted(const QString& text) {
 
 void TextWriter::Record(const RecordLine& line) {
     Line(line.Bytes());
+}
+
+void WriteRecordLines(BasicDiskRoutines& disk, const QString& name,
+                      const QList<RecordLine>& lines) {
+    disk.OpenForOutput(name);
+    TextWriter writer(disk);
+    for (const RecordLine& line : lines)
+        writer.Record(line);
+    disk.CloseAllFiles();
+}
+
+void RewriteFile(BasicDiskRoutines& disk, const QString& name, const QList<RecordLine>& lines) {
+    disk.DeleteWithBackup(name);
+    WriteRecordLines(disk, name, lines);
 }
 
 QString BooleanWord(bool value) {

@@ -4,6 +4,7 @@
 #include "store/BasicDiskRoutines.h"
 
 #include <QDate>
+#include <QDateTime>
 #include <QString>
 
 /// Reads a text file that is open for input, by whole lines or by fields. Reading past the end is
@@ -32,9 +33,9 @@ public:
     float Single();
     /// #TRUE# or #FALSE#.
     bool Boolean();
-    /// #yyyy-mm-dd#, with or without hh:mm:ss behind a blank; the time is left out of the value,
-    /// since no rule of the program looks at it.
-    QDate Date();
+    /// #yyyy-mm-dd#, with or without hh:mm:ss behind a blank; midnight without it. In UTC, which
+    /// stands for no zone at all.
+    QDateTime Date();
 
 private:
     QByteArray NextField();
@@ -86,6 +87,11 @@ private:
     BasicDiskRoutines& routines;
     qint16 number;
 };
+
+/// Writes a file of record lines over what is there; a copy in Backup stays.
+void WriteRecordLines(BasicDiskRoutines& disk, const QString& name, const QList<RecordLine>& lines);
+/// The plain rewrite of a small file: the file and its copy in Backup go, then it is written anew.
+void RewriteFile(BasicDiskRoutines& disk, const QString& name, const QList<RecordLine>& lines);
 
 /// The words that stand for a Boolean in a plain line, in every language.
 QString BooleanWord(bool value);

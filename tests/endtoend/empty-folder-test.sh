@@ -20,7 +20,7 @@ d  ./TesselDelivery/DeliveryItems'
 
 ExpectFoldersOnly() {
     printf '%s\n' "$expected" | LC_ALL=C sort -k 2 >"$dayFolder/expected.txt"
-    Snapshot >"$dayFolder/actual.txt"
+    Snapshot "$business" >"$dayFolder/actual.txt"
     ExpectSame "the data folder" "$dayFolder/expected.txt" "$dayFolder/actual.txt"
 }
 
@@ -42,7 +42,7 @@ WaitForWelcomePanel() {
 
 BeginPlay
 mkdir "$business"
-StartPlay
+StartPlay "$business"
 WaitForTitle
 # Until the bar has run through.
 sleep 1.5

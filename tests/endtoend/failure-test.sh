@@ -34,12 +34,16 @@ sentence=''
 leftBehind=''
 
 KeepFirstPastSlip() {
+    WaitForTitle
     AnswerNext "$recurringQuestion" alt+n
 }
 
 OpenBoard() {
+    WaitForTitle
     Continue
-    Press "$(WaitForWindow "$menuScreen")" alt+p
+    local menu
+    menu=$(WaitForWindow "$menuScreen")
+    Press "$menu" alt+p
 }
 
 # CutTo LINES FILE
@@ -59,7 +63,7 @@ SpoilHolidays() {
 # As the superuser a file's rights bind the program only when it goes without the superuser's
 # freedom from them. As anyone else they bind it anyway.
 ObeyRights() {
-    [[ $EUID -ne 0 ]] || startWords=(setpriv --bounding-set=-dac_override,-dac_read_search)
+    [[ $EUID -ne 0 ]] || startWords=(setpriv "--bounding-set=-dac_override,-dac_read_search")
 }
 
 # The messages go through a pipe, which the limit does not bind.
@@ -71,7 +75,8 @@ LimitFileSize() {
 UseOwnDisk() {
     mkdir "$dayFolder/disk"
     mount -t tmpfs -o size=4m none "$dayFolder/disk"
-    trap 'umount "$dayFolder/disk"; EndPlay' EXIT
+    # The ended program may still be on its way off it.
+    CleanUp() { umount --lazy "$dayFolder/disk"; }
     business=$dayFolder/disk/$businessName
 }
 
@@ -142,14 +147,14 @@ FileSizeLimitStopsTheReschedule)
 *) Fail "There is no rule $rule." ;;
 esac
 
-LayOutBusiness
+LayOutBusiness "$business"
 Spoil
-Snapshot >"$dayFolder/before.txt"
+Snapshot "$business" >"$dayFolder/before.txt"
 Obstruct
 
-StartPlay "${startWords[@]}"
+StartPlay "$business" "${startWords[@]}"
 PlayUpToFailure
-report=$(WaitForWindow "$failureReport")
+report=$(WaitForWindow 'Run-time Failure')
 grep -Fxq "$sentence" "$dayFolder/program.log" || FailDay "the report lacks \"$sentence\"."
 Press "$report" Return
 WaitForEnd
@@ -161,5 +166,5 @@ if [[ -n $leftBehind && -e $business/$leftBehind ]]; then
     rm "$business/$leftBehind"
 fi
 # The backup folder is part of the picture: no copy has come into it.
-Snapshot >"$dayFolder/after.txt"
+Snapshot "$business" >"$dayFolder/after.txt"
 ExpectSame "the data folder" "$dayFolder/before.txt" "$dayFolder/after.txt"

@@ -17,7 +17,6 @@ program=$1
 sampleMaker=$2
 shift 2
 
-failureReport='Run-time Failure'
 recurringQuestion='Delete a Recurring Slip'
 # A message box without a title of its own has the program's.
 notice=$titleScreen
@@ -49,6 +48,9 @@ BeginPlay() {
     SetClock
 }
 
+# For what a test has set up besides; runs when the program has been ended.
+CleanUp() { :; }
+
 EndPlay() {
     local status=$?
     if [[ $status -ne 0 ]]; then
@@ -56,21 +58,24 @@ EndPlay() {
         printf 'Picture and messages are in %s\n' "$dayFolder" >&2
     fi
     [[ ${#otherProcesses[@]} -eq 0 ]] || kill "${otherProcesses[@]}" 2>/dev/null || true
-    StopDay
+    StopDay || true
+    CleanUp || true
     if [[ $status -eq 0 ]]; then
         chmod -R u+rwX "$dayFolder"
         rm -rf "$dayFolder"
     fi
 }
 
-# LayOutBusiness [FOLDER]: the sample business as it is on the set day.
+# LayOutBusiness FOLDER: the sample business as it is on the set day.
 LayOutBusiness() {
-    env LC_ALL="$playLocale" "$sampleMaker" "${1:-$business}" --date "$playDate"
+    env LC_ALL="$playLocale" "$sampleMaker" "$1" --date "$playDate"
 }
 
-# StartPlay [WORD...]: the program on the business, with the words of StartProgram.
+# StartPlay FOLDER [WORD...]: the program on a business, with the words of StartProgram.
 StartPlay() {
-    StartProgram "$program" "$business" LC_ALL="$playLocale" "${playClock[@]}" "$@"
+    local folder=$1
+    shift
+    StartProgram "$program" "$folder" LC_ALL="$playLocale" "${playClock[@]}" "$@"
 }
 
 # WindowOf PROCESS TITLE: that process's window of that title, or nothing.
@@ -145,8 +150,9 @@ RemovePastSlips() {
 
 # From the menu to the print of the whole day of the board's first vehicle.
 PrintFirstVehicle() {
-    Press "$(WaitForWindow "$menuScreen")" alt+p
-    local board
+    local menu board
+    menu=$(WaitForWindow "$menuScreen")
+    Press "$menu" alt+p
     board=$(WaitForWindow "$boardScreen")
     Press "$board" alt+s
     Press "$board" alt+p
@@ -154,14 +160,17 @@ PrintFirstVehicle() {
 
 # From the board through the menu to the end.
 Leave() {
-    Press "$(WaitForWindow "$boardScreen")" alt+m
-    LeaveProgram "$(WaitForWindow "$menuScreen")"
+    local board menu
+    board=$(WaitForWindow "$boardScreen")
+    Press "$board" alt+m
+    menu=$(WaitForWindow "$menuScreen")
+    LeaveProgram "$menu"
 }
 
-# Snapshot [FOLDER]: a line for each folder of a business and for each file with its checksum.
+# Snapshot FOLDER: a line for each folder of a business and for each file with its checksum.
 Snapshot() {
     (
-        cd "${1:-$business}"
+        cd "$1"
         find . -type f -exec sha256sum {} +
         find . ! -type f -printf '%y  %p\n'
     ) | LC_ALL=C sort -k 2

@@ -8,17 +8,16 @@ source "$(dirname "${BASH_SOURCE[0]}")/play.sh"
 source "$endToEndFolder/print-server.sh"
 
 serverFolder=$(mktemp -d -t tessel-printer-XXXXXX)
-BeginPlay
-EndPrinting() {
-    EndPlay
-    StopPrintServer || true
+CleanUp() {
+    StopPrintServer
     rm -rf "$serverFolder"
 }
-trap EndPrinting EXIT
+
+BeginPlay
 StartPrintServer "$serverFolder" || FailDay "there is no print server."
 
-LayOutBusiness
-StartPlay CUPS_SERVER="$CUPS_SERVER"
+LayOutBusiness "$business"
+StartPlay "$business" CUPS_SERVER="$CUPS_SERVER"
 WaitForTitle
 AnswerPastSlips
 Continue

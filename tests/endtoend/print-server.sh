@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # A print server of one's own, to be sourced by bash:
 #
 #     . print-server.sh
@@ -48,9 +49,9 @@ StartPrintServer() {
 
 StopPrintServer() {
     [[ $PrintServerProcess ]] || return 0
-    kill "$PrintServerProcess" 2>/dev/null
-    WaitUntil 10 PrintServerHasEnded || kill -KILL "$PrintServerProcess" 2>/dev/null
-    wait "$PrintServerProcess" 2>/dev/null
+    kill "$PrintServerProcess" 2>/dev/null || true
+    WaitUntil 10 PrintServerHasEnded || kill -KILL "$PrintServerProcess" 2>/dev/null || true
+    wait "$PrintServerProcess" 2>/dev/null || true
     PrintServerProcess=
     unset CUPS_SERVER
 }

@@ -12,17 +12,17 @@ LayOutQuietBusiness() {
 
 BeginPlay
 LayOutQuietBusiness "$business"
-Snapshot >"$dayFolder/before.txt"
+Snapshot "$business" >"$dayFolder/before.txt"
 
 Step "The first copy starts."
-StartPlay
+StartPlay "$business"
 WaitForTitle
 first=$programProcess
 otherProcesses+=("$first")
 firstTitle=$titleWindow
 
 Step "A second copy is refused."
-StartPlay
+StartPlay "$business"
 AnswerNext "$notice" Return
 WaitForEnd
 [[ $programStatus -eq 0 ]] || FailDay "the second copy ended with status $programStatus."
@@ -34,7 +34,7 @@ Continue
 
 Step "A copy on another folder starts."
 LayOutQuietBusiness "$dayFolder/other"
-StartProgram "$program" "$dayFolder/other" "${playClock[@]}"
+StartPlay "$dayFolder/other"
 otherProcesses+=("$programProcess")
 WaitForTitle
 Continue
@@ -42,12 +42,12 @@ Continue
 Step "A copy starts after the first has died."
 kill -KILL "$first"
 wait "$first" 2>/dev/null || true
-StartPlay
+StartPlay "$business"
 WaitForTitle
 Continue
 
 Step "No copy has left anything in the folder."
 kill -KILL "$programProcess"
 wait "$programProcess" 2>/dev/null || true
-Snapshot >"$dayFolder/after.txt"
+Snapshot "$business" >"$dayFolder/after.txt"
 ExpectSame "the data folder" "$dayFolder/before.txt" "$dayFolder/after.txt"

@@ -46,13 +46,13 @@ DoTheDayByHand() {
 }
 
 BeginPlay
-LayOutBusiness
+LayOutBusiness "$business"
 LayOutBusiness "$dayFolder/expected"
 printf '%s' "$goodsOfFirstSlip" >"$dayFolder/goods"
 ExpectSame "the slip's goods" "$dayFolder/goods" "$business/TesselDelivery/DeliveryItems/20260001.txt"
 DoTheDayByHand "$dayFolder/expected"
 
-StartPlay
+StartPlay "$business"
 WaitForTitle
 AnswerPastSlips
 Continue
@@ -64,5 +64,5 @@ ExpectPage "$pdf" "schedule.$locale.txt"
 Leave
 
 Snapshot "$dayFolder/expected" >"$dayFolder/expected.txt"
-Snapshot >"$dayFolder/actual.txt"
+Snapshot "$business" >"$dayFolder/actual.txt"
 ExpectSame "the data folder after the exit" "$dayFolder/expected.txt" "$dayFolder/actual.txt"

@@ -21,11 +21,6 @@ protected:
         folder.Write(u"Settings.txt"_s, {});
         folder.Write(u"DeliverySettings.txt"_s, {});
     }
-    void WriteMasterFiles() {
-        folder.Write(u"NXInventoriedItems.txt"_s, {});
-        folder.Write(u"Vehicles.txt"_s, {});
-        folder.Write(u"CustomerData.txt"_s, {});
-    }
     bool WelcomeIsShown() { return Find<QWidget>(splash, u"fraWelcome"_s)->isVisible(); }
 };
 
@@ -130,6 +125,6 @@ TEST_F(SplashScreen, ProgressGoesUpByTenATick) {
 
 TEST_F(SplashScreen, CloseBoxAsksForTheEnd) {
     screens.Show(splash);
-    screens.Find(splash)->close();
+    CloseByUser(splash);
     EXPECT_EQ(exitRequests, 1);
 }

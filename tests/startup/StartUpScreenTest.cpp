@@ -29,7 +29,7 @@ public:
 class StartUpSequence : public ScreenTest {};
 
 TEST_F(StartUpSequence, EmptyFolderGetsItsFoldersAndNoFile) {
-    StartUp(office, screens);
+    Main(office, screens);
     const QStringList folders = {u"2026/"_s,
                                  u"AuxFiles/"_s,
                                  u"Backup/"_s,
@@ -58,7 +58,7 @@ TEST_F(StartUpSequence, ThreePastRecurringSlipsAskThreeQuestionsAndMoveOn) {
         user.ExpectQuestion(question, questionTitle, Answer::No);
         user.ExpectMessage(moved);
     }
-    StartUp(office, screens);
+    Main(office, screens);
     for (const QString& number : {u"1"_s, u"2"_s, u"3"_s})
         EXPECT_TRUE(folder.Read(u"TesselDelivery/Deliveries/%1.txt"_s.arg(number))
                         .startsWith(number.toLatin1() + "\r\n3/10/2026\r\n"));
@@ -68,7 +68,7 @@ TEST_F(StartUpSequence, SettingsFileOverrulesTheOtherTwo) {
     folder.Write(u"Settings.txt"_s, "8\r\n7\r\n#FALSE#\r\n#FALSE#\r\n#FALSE#\r\n");
     folder.Write(u"WorkDays.txt"_s, "5\r\n");
     folder.Write(u"Prompts.txt"_s, "#TRUE#,#TRUE#\r\n");
-    StartUp(office, screens);
+    Main(office, screens);
     EXPECT_EQ(office.settings.WorkWeek, 7);
     EXPECT_EQ(office.settings.shownWorkWeek, 5);
     EXPECT_FALSE(office.settings.AlarmOn);
@@ -84,7 +84,7 @@ TEST_F(StartUpSequence, VehiclesAndItemsAreThereWhenTheMenuComes) {
     office.disk.OpenRandom(u"/NXInventoriedItems.txt"_s, sizeof(SalesItem));
     WriteRecord(office.disk, office.disk.DiskFile, 1, item);
     office.disk.CloseAllFiles();
-    StartUp(office, screens);
+    Main(office, screens);
     EXPECT_EQ(office.fleet.Names.stringList(), QStringList{u"Van 2"_s});
     EXPECT_EQ(office.items.ProductNames.stringList(), QStringList{u"Milk"_s});
     EXPECT_EQ(office.items.ProductPrices.stringList(), QStringList{u"$4.10"_s});
@@ -97,7 +97,7 @@ TEST_F(StartUpSequence, QuestionsComeOverTheTitleScreenBeforeTheMenuIsMade) {
     Screens itsScreens(watched);
     watcher.Watched = &itsScreens;
     watcher.ExpectMessage(u"Delivery Slip 7 scheduled for 3/6/2026 has been Deleted"_s);
-    StartUp(watched, itsScreens);
+    Main(watched, itsScreens);
     EXPECT_TRUE(watcher.SplashWasUp);
     EXPECT_FALSE(watcher.MenuWasMade);
 }
@@ -108,7 +108,7 @@ TEST_F(StartUpSequence, BrokenSettingsFileStopsBeforeAnyFolderIsMade) {
     bare.Write(u"TaxSettings.txt"_s, "\"Sales Tax\"\r\n");
     Office stopped(bare.Path(), {clock, user, printer, browser});
     Screens itsScreens(stopped);
-    const RuntimeFailure failure = FailureOf([&] { StartUp(stopped, itsScreens); });
+    const RuntimeFailure failure = FailureOf([&] { Main(stopped, itsScreens); });
     EXPECT_EQ(failure.Kind(), FailureKind::ReadPastEnd);
     EXPECT_TRUE(failure.Sentence().contains(u"TaxSettings.txt"_s));
     EXPECT_EQ(bare.Everything(), (QStringList{u"Settings.txt"_s, u"TaxSettings.txt"_s}));

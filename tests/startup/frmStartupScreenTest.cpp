@@ -20,12 +20,6 @@ const QString notBuilt = u"This routine is not part of this version yet."_s;
 
 class StartupScreen : public ScreenTest {
 protected:
-    void WriteMasterFiles() {
-        folder.Write(u"NXInventoriedItems.txt"_s, {});
-        folder.Write(u"Vehicles.txt"_s, {});
-        folder.Write(u"CustomerData.txt"_s, {});
-    }
-
     RoutineLabel* Routine(int index) {
         return Find<RoutineLabel>(menu, u"lblSub(%1)"_s.arg(index));
     }
@@ -183,7 +177,7 @@ TEST_F(StartupScreen, ExitAndTheCloseBoxAskForTheEnd) {
     screens.Show(menu);
     Trigger(u"mnuExit"_s);
     EXPECT_EQ(exitRequests, 1);
-    screens.Find(menu)->close();
+    CloseByUser(menu);
     EXPECT_EQ(exitRequests, 2);
 }
 

@@ -139,7 +139,7 @@ TEST_F(TextLinesTest, FieldsOfARecordLineComeBack) {
     EXPECT_EQ(reader.Text(), u"Arial, bold"_s);
     EXPECT_EQ(reader.Byte(), 255);
     EXPECT_EQ(reader.Single(), 1234.5F);
-    EXPECT_EQ(reader.Date(), QDate(2026, 12, 25));
+    EXPECT_EQ(reader.Date().date(), QDate(2026, 12, 25));
     EXPECT_TRUE(reader.AtEnd());
 }
 
@@ -199,8 +199,8 @@ TEST_F(TextLinesTest, WholeLinesAndFieldsMixInOneFile) {
 
 TEST_F(TextLinesTest, DateFieldMayCarryATime) {
     TextReader reader = Reading("#2026-12-25 08:30:00#\r\n#2026-12-26#\r\n");
-    EXPECT_EQ(reader.Date(), QDate(2026, 12, 25));
-    EXPECT_EQ(reader.Date(), QDate(2026, 12, 26));
+    EXPECT_EQ(reader.Date().date(), QDate(2026, 12, 25));
+    EXPECT_EQ(reader.Date().date(), QDate(2026, 12, 26));
 }
 
 TEST_F(TextLinesTest, ReadingPastTheEndFailsAndNamesTheFile) {

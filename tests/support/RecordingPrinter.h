@@ -7,8 +7,8 @@
 #include <optional>
 #include <vector>
 
-/// A printer that records what was drawn where. A character is a tenth of the font size wide in
-/// points times 20 (so 100 twips at size 10), and a line is 24 twips a point high.
+/// A printer that records what was drawn where. A character is ten twips a point wide (so 100
+/// twips at size 10), and a line is 24 twips a point high.
 class RecordingPrinter : public PrinterSurface {
 public:
     struct Text {

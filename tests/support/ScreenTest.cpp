@@ -2,7 +2,8 @@
 
 #include "platform/Grid.h"
 
-#include <QAction>
+#include <QCloseEvent>
+#include <QtTest/qtestspontaneevent.h>
 
 ScreenTest::ScreenTest() : screens(office) {
     Failures().clear();
@@ -39,6 +40,18 @@ void ScreenTest::Press(QWidget* control, Qt::Key key) {
 
 void ScreenTest::Type(QWidget* control, const QString& text) {
     QTest::keyClicks(control, text);
+}
+
+void ScreenTest::CloseByUser(ScreenName screen) const {
+    QCloseEvent event;
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    // Sending an event would take the mark of coming from outside off it.
+    qApp->notify(screens.Find(screen), &event);
+}
+
+void ScreenTest::WriteMasterFiles() const {
+    for (const char* name : {"NXInventoriedItems.txt", "Vehicles.txt", "CustomerData.txt"})
+        folder.Write(QString::fromLatin1(name), {});
 }
 
 bool ScreenTest::IsShown(ScreenName screen) const {

@@ -30,6 +30,10 @@ protected:
     static void Press(QWidget* control, Qt::Key key);
     static void Type(QWidget* control, const QString& text);
     bool IsShown(ScreenName screen) const;
+    /// What the window's close box does.
+    void CloseByUser(ScreenName screen) const;
+    /// Empty files of products, vehicles and customers, so that the menu opens everything.
+    void WriteMasterFiles() const;
 
     /// What a real failure would have ended the program with; the test takes it instead.
     static std::vector<RuntimeFailure>& Failures();
