@@ -47,8 +47,9 @@ StartWindowManager() {
 }
 
 StartDisplay() {
-    # The server chooses a free display number and writes it down when it is ready.
-    Xvfb -displayfd 3 -screen 0 "$displaySize" -nolisten tcp \
+    # The server chooses a free display number and writes it down when it is ready. It is not to
+    # begin anew whenever its last client has gone, which would shut out the next one meanwhile.
+    Xvfb -displayfd 3 -screen 0 "$displaySize" -nolisten tcp -noreset \
         3>"$dayHome/display" >"$dayHome/display.log" 2>&1 &
     displayProcess=$!
     local i

@@ -37,9 +37,8 @@ Answer DesktopOperator::MsgBox(const QString& text, Buttons buttons, const QStri
 std::optional<QString> DesktopOperator::InputBox(const QString& prompt, const QString& title,
                                                  const QString& proposal) {
     bool accepted = false;
-    const QString text =
-        QInputDialog::getText(QApplication::activeWindow(), TitleOr(title), prompt,
-                              QLineEdit::Normal, proposal, &accepted);
+    const QString text = QInputDialog::getText(QApplication::activeWindow(), TitleOr(title), prompt,
+                                               QLineEdit::Normal, proposal, &accepted);
     return accepted ? std::optional(text) : std::nullopt;
 }
 

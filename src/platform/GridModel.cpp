@@ -81,9 +81,9 @@ void GridModel::Sort(int column, CellOrder isBefore) {
     CheckCell(0, column);
     const Refill refill(*this);
     const auto at = size_t(column);
-    std::stable_sort(
-        cells.begin() + 1, cells.end(),
-        [&](const auto& one, const auto& other) { return isBefore(one[at], other[at]); });
+    std::stable_sort(cells.begin() + 1, cells.end(), [&](const auto& one, const auto& other) {
+        return isBefore(one[at], other[at]);
+    });
 }
 
 void GridModel::AlignRight(int column) {

@@ -4,7 +4,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;

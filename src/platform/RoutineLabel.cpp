@@ -62,9 +62,9 @@ QRect RoutineLabel::CaptionRect() const {
 void RoutineLabel::resizeEvent(QResizeEvent* event) {
     QAbstractButton::resizeEvent(event);
     if (noteLabel)
-        noteLabel->setGeometry(QRect(
-            QPoint(CaptionRect().left(), CaptionRect().bottom() + 1 + lineSpacing),
-            noteLabel->sizeHint()));
+        noteLabel->setGeometry(
+            QRect(QPoint(CaptionRect().left(), CaptionRect().bottom() + 1 + lineSpacing),
+                  noteLabel->sizeHint()));
 }
 
 void RoutineLabel::changeEvent(QEvent* event) {
@@ -90,8 +90,8 @@ void RoutineLabel::paintEvent(QPaintEvent*) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(isHot ? theme.card : theme.iconTint);
     painter.drawRoundedRect(tile, tileCorner, tileCorner);
-    painter.drawPixmap(tile.topLeft(), LineIcon(icon, theme.accent, {TileSize(), TileSize()},
-                                                devicePixelRatioF()));
+    painter.drawPixmap(tile.topLeft(),
+                       LineIcon(icon, theme.accent, {TileSize(), TileSize()}, devicePixelRatioF()));
 
     painter.setPen(theme.text);
     painter.drawText(CaptionRect(), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic,

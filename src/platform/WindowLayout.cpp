@@ -11,8 +11,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double defaultWidth = 82;
-constexpr double defaultHeight = 48;
+constexpr double defaultWidth = 86;
+constexpr double defaultHeight = 50;
 /// For the window manager's frame and a panel of the desktop.
 constexpr int desktopMargin = 60;
 
@@ -28,8 +28,8 @@ void FitToDesktop(QWidget& window) {
 class Layouts : public QSettings {
 public:
     Layouts()
-        : QSettings(QSettings::IniFormat, QSettings::UserScope, ProgramName(),
-                    u"window-layout"_s) {}
+        : QSettings(QSettings::IniFormat, QSettings::UserScope, ProgramName(), u"window-layout"_s) {
+    }
 };
 
 } // namespace

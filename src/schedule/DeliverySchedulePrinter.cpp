@@ -61,8 +61,8 @@ void DeliverySchedulePrinter::PrintMarked(bool printSchedule) {
                     Buttons::Ok, u"No Deliveries"_s);
         return;
     }
-    surface.JobName = u"Delivery schedule %1 %2"_s.arg(board.DTPicker1.toString(Qt::ISODate),
-                                                       board.lstVehicles);
+    surface.JobName =
+        u"Delivery schedule %1 %2"_s.arg(board.DTPicker1.toString(Qt::ISODate), board.lstVehicles);
     printer.PreparePrinter(Orientation::Portrait, settings.ckColor != 0);
     if (printSchedule)
         PrintDeliverySchedule();
@@ -128,8 +128,7 @@ void DeliverySchedulePrinter::PrintScheduleEntries() {
     }
 }
 
-void DeliverySchedulePrinter::PrintScheduleEntry(const QString& slipNo,
-                                                 const QString& chargeText) {
+void DeliverySchedulePrinter::PrintScheduleEntry(const QString& slipNo, const QString& chargeText) {
     board.LoadSlipPanel(slipNo);
     surface.FontBold = true;
     PrintLineAt(leftColumn, board.fraSlip.lblTime);

@@ -10,8 +10,8 @@ double TaxOn(Currency subTotal, const QString& rate) {
     return subTotal.ToDouble() * LeadingNumber(rate) / 100.0;
 }
 
-void CalculatePlainTaxes(Currency subTotal, const LiveSettings& settings,
-                         const TaxOptions& options, SlipCaptions& captions) {
+void CalculatePlainTaxes(Currency subTotal, const LiveSettings& settings, const TaxOptions& options,
+                         SlipCaptions& captions) {
     const bool both = options.IsOn(TaxOption::Both);
     const bool first = both || options.IsOn(TaxOption::PrimaryOnly);
     const bool second = both || options.IsOn(TaxOption::SecondaryOnly);

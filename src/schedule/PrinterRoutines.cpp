@@ -46,8 +46,8 @@ void PrinterRoutines::SetPrintColor(PrintColor selector) {
     }
 }
 
-/// Takes the words that fit off the front of `rest`. The measure is taken at the blanks only, so the
-/// last word stays on its line whatever its width.
+/// Takes the words that fit off the front of `rest`. The measure is taken at the blanks only, so
+/// the last word stays on its line whatever its width.
 QString PrinterRoutines::TakeLine(QString& rest, int width) {
     qsizetype end = rest.indexOf(u' ');
     qsizetype blank = end;
@@ -65,8 +65,7 @@ QString PrinterRoutines::TakeLine(QString& rest, int width) {
     return line;
 }
 
-void PrinterRoutines::PrintWrapped(double x, double y, int width, int height,
-                                   const QString& text) {
+void PrinterRoutines::PrintWrapped(double x, double y, int width, int height, const QString& text) {
     surface.CurrentY = y;
     const double bottom = y + height;
     QString rest = text;

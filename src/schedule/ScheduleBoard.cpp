@@ -63,7 +63,8 @@ void ScheduleBoard::Initform(const QString& firstVehicle) {
     fraSlip.lblCharge = ZeroCurrencyText();
     fraSlip.lblInvoice = QString::number(invoiceNumber.LoadInvoiceNumber());
     SetTaxOptions(settings, optTax);
-    txtDeliveryCharge = settings.ckDeliveryCharge == 1 ? settings.txtDeliveryCharge : ZeroCurrencyText();
+    txtDeliveryCharge =
+        settings.ckDeliveryCharge == 1 ? settings.txtDeliveryCharge : ZeroCurrencyText();
     fraSlip.lblTax1 = ZeroCurrencyText();
     fraSlip.lblTax2 = ZeroCurrencyText();
 }

@@ -1,5 +1,6 @@
 #include "schedule/frmPrintSchedules.h"
 
+#include "platform/ChoiceList.h"
 #include "platform/DatePicker.h"
 #include "platform/ElidedLabel.h"
 #include "platform/Grid.h"
@@ -28,14 +29,13 @@ namespace {
 constexpr int bodySide = 20;
 constexpr int bodyTop = 14;
 constexpr double sideWidth = 16.5;
-constexpr double workScheduleHeight = 5.2;
+constexpr double workScheduleHeight = 3;
 constexpr double itemsHeight = 7;
 constexpr int addressLines = 6;
 constexpr double logoSize = 1.75;
 
 QListView* MakeList(const QString& name, const QString& accessibleName) {
-    auto* list = Named(new QListView, name);
-    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    auto* list = Named(new ChoiceList, name);
     list->setAccessibleName(accessibleName);
     return list;
 }
@@ -57,8 +57,8 @@ QLabel* SoftLabel(const QString& text) {
 } // namespace
 
 frmPrintSchedules::frmPrintSchedules(Office& theOffice, Screens& allScreens)
-    : Screen(u"frmPrintSchedules"_s, u"Print Delivery Schedules and Invoices"_s),
-      office(theOffice), screens(allScreens), board(theOffice.board) {
+    : Screen(u"frmPrintSchedules"_s, u"Print Delivery Schedules and Invoices"_s), office(theOffice),
+      screens(allScreens), board(theOffice.board) {
     WhereLabel()->setObjectName(Indexed(u"Label1"_s, 14));
 
     auto* left = new QVBoxLayout;
@@ -211,7 +211,9 @@ QWidget* frmPrintSchedules::MakeWorkScheduleCard() {
     auto* card = new Card(u"Scheduled Deliveries"_s);
     lstWorkSchedule = MakeList(u"lstWorkSchedule"_s, u"Scheduled Deliveries"_s);
     lstWorkSchedule->setModel(&board.lstWorkSchedule);
-    lstWorkSchedule->setFixedHeight(Em(workScheduleHeight));
+    // As high as the cards beside it.
+    lstWorkSchedule->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    lstWorkSchedule->setMinimumHeight(Em(workScheduleHeight));
     card->Rows()->addWidget(lstWorkSchedule, 1);
     return card;
 }
@@ -324,8 +326,8 @@ QWidget* frmPrintSchedules::MakeSlipAmounts() {
     }
     row->addWidget(fraTax);
     row->addWidget(MakeAmount(u"Total"_s, u"lblGrandtotal"_s));
-    fraInvoiceNo = Named(MakeAmount(u"Invoice No (if Printed)"_s, u"lblInvoice"_s),
-                         u"fraInvoiceNo"_s);
+    fraInvoiceNo =
+        Named(MakeAmount(u"Invoice No (if Printed)"_s, u"lblInvoice"_s), u"fraInvoiceNo"_s);
     row->addWidget(fraInvoiceNo);
     return block;
 }

@@ -84,7 +84,7 @@ void SettingsStore::SavePrompts() {
     // Only the file itself goes: a copy in Backup stays.
     disk.KillFile(promptsFile);
     WriteRecordLines(disk, promptsFile,
-              {RecordLine().Boolean(settings.PromptsOn).Boolean(settings.AlarmOn)});
+                     {RecordLine().Boolean(settings.PromptsOn).Boolean(settings.AlarmOn)});
 }
 
 void SettingsStore::LoadPrintColors() {
@@ -175,7 +175,7 @@ void SettingsStore::LoadLogoSettings() {
 
 void SettingsStore::SaveLogoSettings() {
     WriteRecordLines(disk, logoSettingsFile,
-              {RecordLine().Single(settings.logoWidth).Single(settings.logoHeight)});
+                     {RecordLine().Single(settings.logoWidth).Single(settings.logoHeight)});
 }
 
 void SettingsStore::LoadDeliverySettings() {

@@ -40,8 +40,7 @@ const char* const welcomeTexts[] = {
 } // namespace
 
 frmSplash::frmSplash(Office& theOffice, Screens& allScreens)
-    : Screen(u"frmSplash"_s, ProgramTitle()), office(theOffice),
-      screens(allScreens) {
+    : Screen(u"frmSplash"_s, ProgramTitle()), office(theOffice), screens(allScreens) {
     fraWelcome = MakeWelcome();
     auto* columns = new QHBoxLayout(Body());
     columns->setSpacing(2 * cardGap);
@@ -80,8 +79,7 @@ QWidget* frmSplash::MakeTitle() {
     auto* rows = new QVBoxLayout(title);
     rows->addWidget(MakePicture(0, u"Shows the Setup Screen"_s), 0, Qt::AlignHCenter);
 
-    auto* lblProductName =
-        Named(new QLabel(ProgramTitle()), u"lblProductName"_s);
+    auto* lblProductName = Named(new QLabel(ProgramTitle()), u"lblProductName"_s);
     lblProductName->setToolTip(u"The Name of this program"_s);
     QFont large = lblProductName->font();
     constexpr double titleScale = 2.4;
@@ -90,8 +88,8 @@ QWidget* frmSplash::MakeTitle() {
     lblProductName->setFont(large);
     rows->addWidget(lblProductName, 0, Qt::AlignHCenter);
 
-    auto* lblVersion = Named(
-        new QLabel(u"Version "_s + QApplication::applicationVersion()), u"lblVersion"_s);
+    auto* lblVersion =
+        Named(new QLabel(u"Version "_s + QApplication::applicationVersion()), u"lblVersion"_s);
     lblVersion->setProperty("soft", true);
     rows->addWidget(lblVersion, 0, Qt::AlignHCenter);
 

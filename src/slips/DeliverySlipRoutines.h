@@ -77,8 +77,8 @@ public:
     /// before today goes through ProcessPastSlip; the table then still shows it as it was.
     void LoadSlips(bool processPast);
 
-    /// Writes the 22 header lines without blanks at their ends, replacing the slip file of that number, and leaves it open: the
-    /// item file's writer, which follows, closes it.
+    /// Writes the 22 header lines without blanks at their ends, replacing the slip file of that
+    /// number, and leaves it open: the item file's writer, which follows, closes it.
     void WriteSlipHeader(const SlipHeader& header);
     /// Writes the item file from rows 1 to `count` of a grid, columns 0 to 3: units, description,
     /// unit price, line total. Closes all files first. An empty total counts as 0.

@@ -106,9 +106,9 @@ QVBoxLayout* frmStartup::MakeColumn(const QString& heading,
 
 QWidget* frmStartup::MakeNoCustomerPanel() {
     auto* panel = Named(new Card(u"No Customers Found"_s), u"fraNoCustomerFound"_s);
-    for (const QString& text : {u"Your Customer file  was not Found"_s,
-                                u"Click Goto and create Customer Records"_s,
-                                u"This is Normal the 1st time you use the Program"_s})
+    for (const QString& text :
+         {u"Your Customer file  was not Found"_s, u"Click Goto and create Customer Records"_s,
+          u"This is Normal the 1st time you use the Program"_s})
         panel->Rows()->addWidget(new QLabel(text));
     auto* cmdGoto = Named(new QPushButton(u"Goto"_s), u"cmdGoto"_s);
     auto* cmdCancel = Named(new QPushButton(u"Cancel"_s), u"cmdCancel"_s);
@@ -146,8 +146,7 @@ void frmStartup::MakeOrderMenu() {
     AddOrderItem(business, u"mnuDeluxe"_s, u"Checks, Envelopes"_s,
                  u"business checks and envelopes"_s);
     AddOrderItem(business, u"mnuDepositSlips"_s, u"Deposit Slips"_s, u"bank deposit slips"_s);
-    AddOrderItem(order, u"mnuPPaper"_s, u"Plain Paper"_s, u"plain letter paper"_s,
-                 u"Order Paper"_s,
+    AddOrderItem(order, u"mnuPPaper"_s, u"Plain Paper"_s, u"plain letter paper"_s, u"Order Paper"_s,
                  u"Use Plain Paper for Reports (etc)\nClick Yes to connect to a Supplier"_s);
     AddOrderItem(order, u"mnuPPPaper"_s, u"Perfed Paper"_s, u"perforated remittance paper"_s,
                  u"Order Paper"_s,
@@ -160,8 +159,7 @@ void frmStartup::MakeOrderMenu() {
                  u"Order Paper"_s,
                  u"30 to a Page Mailing Labels\nClick Yes to connect to a Supplier"_s);
     AddOrderItem(order, u"mnuLabels"_s, u"Shipping Labels"_s, u"shipping labels 2 x 4"_s,
-                 u"Order Labels"_s,
-                 u"2 X 4 Shipping Labels\nClick YES to Connect to a Supplier"_s);
+                 u"Order Labels"_s, u"2 X 4 Shipping Labels\nClick YES to Connect to a Supplier"_s);
 }
 
 void frmStartup::AddOrderItem(QMenu* menu, const QString& name, const QString& caption,
@@ -169,8 +167,8 @@ void frmStartup::AddOrderItem(QMenu* menu, const QString& name, const QString& c
                               const QString& question) {
     QAction* item = Named(menu->addAction(caption), name);
     connect(item, &QAction::triggered, this, [this, searchFor, title, question] {
-        if (!question.isEmpty() && office.machine.user.MsgBox(question, Buttons::YesNo, title) !=
-                                       Answer::Yes)
+        if (!question.isEmpty() &&
+            office.machine.user.MsgBox(question, Buttons::YesNo, title) != Answer::Yes)
             return;
         OpenWebPage(office.disk, office.machine.browser, SearchAddress(searchFor));
     });
@@ -233,8 +231,7 @@ void frmStartup::mnuCreate_Click() {
 }
 
 void frmStartup::OpenUpdatePage() {
-    OpenWebPage(office.disk, office.machine.browser,
-                SearchAddress(ProgramTitle() + u" update"_s));
+    OpenWebPage(office.disk, office.machine.browser, SearchAddress(ProgramTitle() + u" update"_s));
     Q_EMIT screens.ExitRequested();
 }
 

@@ -35,7 +35,8 @@ bool IsDate(QStringView text);
 QString TrimBlanks(const QString& text);
 
 /// The number that a text begins with: blanks skipped, digits with a point as decimal mark; 0
-/// when there is none, also for a sign. So "6.25" is 6.25, "1,5" is 1 and "abc" is 0, in every region.
+/// when there is none, also for a sign. So "6.25" is 6.25, "1,5" is 1 and "abc" is 0, in every
+/// region.
 double LeadingNumber(QStringView text);
 
 /// An amount in the regional currency form, rounded half away from zero to the currency's

@@ -27,25 +27,23 @@ playLocale=en_US.UTF-8
 businessName='Büro Süd 1'
 business=''
 otherProcesses=()
-playClock=()
 
-# A clock that runs on from the morning of the set day, as words for env. The preloaded clock comes
-# before the sanitizer's own library, which that library must put up with.
-SetClock() {
-    playClock=(
-        "LD_PRELOAD=$(faketime "$playDate" printenv LD_PRELOAD)"
-        "FAKETIME=@$playDate 08:00:00"
-        FAKETIME_DONT_FAKE_MONOTONIC=1
-        FAKETIME_DISABLE_SHM=1
-        "ASAN_OPTIONS=${ASAN_OPTIONS:+$ASAN_OPTIONS:}verify_asan_link_order=0"
-    )
-}
+# A clock that runs on from the morning of the set day, as words for env. The loader puts the
+# machine's folder of libraries in the place of $LIB. The preloaded clock comes before the
+# sanitizer's own library, which that library must put up with.
+# shellcheck disable=SC2016  # for the loader to expand
+playClock=(
+    'LD_PRELOAD=/usr/$LIB/faketime/libfaketime.so.1'
+    "FAKETIME=@$playDate 08:00:00"
+    FAKETIME_DONT_FAKE_MONOTONIC=1
+    FAKETIME_DISABLE_SHM=1
+    "ASAN_OPTIONS=${ASAN_OPTIONS:+$ASAN_OPTIONS:}verify_asan_link_order=0"
+)
 
 BeginPlay() {
     BeginDay "$(mktemp -d -t tessel-play-XXXXXX)"
     trap EndPlay EXIT
     business="$dayFolder/$businessName"
-    SetClock
 }
 
 # For what a test has set up besides; runs when the program has been ended.

@@ -62,8 +62,8 @@ TEST(RuntimeFailureTest, SystemErrorsAreOfTheKindAnOperatorUnderstands) {
         {EROFS, FailureKind::PermissionDenied},   {EISDIR, FailureKind::PermissionDenied},
         {ENOSPC, FailureKind::DiskFull},          {EDQUOT, FailureKind::DiskFull},
         {EFBIG, FailureKind::DiskFull},           {ENAMETOOLONG, FailureKind::BadFileName},
-        {EEXIST, FailureKind::FileAlreadyExists}, {EIO, FailureKind::DeviceFailure},
-        {EMFILE, FailureKind::DeviceFailure}};
+        {EINVAL, FailureKind::BadFileName},       {EEXIST, FailureKind::FileAlreadyExists},
+        {EIO, FailureKind::DeviceFailure},        {EMFILE, FailureKind::DeviceFailure}};
     for (const Case& one : cases)
         EXPECT_EQ(FailureFromErrno(one.error, u"Opening A.txt"_s).Kind(), one.kind) << one.error;
 }

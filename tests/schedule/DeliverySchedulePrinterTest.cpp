@@ -16,9 +16,9 @@ protected:
             u"62701"_s,         u"555-0100"_s,      u"555-0101"_s,   u"Tax 99"_s};
     }
 
-    static SlipSample SlipWithoutApartments(const QString& number, const QString& time,
+    static SampleSlip SlipWithoutApartments(const QString& number, const QString& time,
                                             int itemLines) {
-        SlipSample slip{.number = number};
+        SampleSlip slip{.number = number};
         slip.time = time;
         slip.soldTo[2].clear();
         slip.shipTo[2].clear();
@@ -227,7 +227,7 @@ TEST_F(DeliverySchedulePrinterTest, ChargeIsThatOfTheGridAndEndsAtItsPlace) {
 }
 
 TEST_F(DeliverySchedulePrinterTest, DeliveryWithoutShipToPrintsTheSoldToSideAlone) {
-    SlipSample slip{.number = u"20260014"_s};
+    SampleSlip slip{.number = u"20260014"_s};
     slip.soldTo[2].clear();
     slip.shipTo = {u""_s, u""_s, u""_s, u""_s, u""_s, u""_s};
     StoreSlip(slip);
@@ -241,7 +241,7 @@ TEST_F(DeliverySchedulePrinterTest, DeliveryWithoutShipToPrintsTheSoldToSideAlon
 }
 
 TEST_F(DeliverySchedulePrinterTest, ApartmentOnEitherSideTakesALine) {
-    SlipSample slip{.number = u"20260014"_s};
+    SampleSlip slip{.number = u"20260014"_s};
     slip.soldTo[2].clear();
     StoreSlip(slip);
     OpenBoard();
@@ -274,7 +274,7 @@ TEST_F(DeliverySchedulePrinterTest, DeliveryWithoutGoodsHasTheHeadingsAlone) {
 }
 
 TEST_F(DeliverySchedulePrinterTest, GoodsAreRightAlignedByTheirOwnLength) {
-    SlipSample slip = SlipWithoutApartments(u"1"_s, u"08:00am"_s, 1);
+    SampleSlip slip = SlipWithoutApartments(u"1"_s, u"08:00am"_s, 1);
     slip.itemLines = {u"1250"_s, u"Gravel"_s, u"$100.00"_s, u"$99999.00"_s};
     StoreSlip(slip);
     OpenBoard();

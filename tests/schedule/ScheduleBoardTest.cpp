@@ -732,7 +732,7 @@ TEST_F(ScheduleBoardTest, PanelShowsTheSlip) {
 }
 
 TEST_F(ScheduleBoardTest, CommasInAQuotedAddressStayWhole) {
-    SlipSample slip{.number = u"1"_s};
+    SampleSlip slip{.number = u"1"_s};
     slip.soldTo[0] = u"Miller, Sons & Co"_s;
     slip.shipTo[1] = u"9 Mill Lane, Gate 2"_s;
     StoreSlip(slip);

@@ -147,6 +147,43 @@ protected:
             Save(file);
     }
 
+    /// The values of the eight files that the setup screen loads, when all are missing.
+    void ExpectDefaults() const {
+        EXPECT_EQ(live.BusinessData, (std::array<QString, 9>()));
+        EXPECT_EQ(live.WorkWeek, 5);
+        EXPECT_EQ(live.shownWorkWeek, 5);
+        EXPECT_TRUE(live.AlarmOn);
+        EXPECT_TRUE(live.PromptsOn);
+        EXPECT_TRUE(live.ckPrompts);
+        EXPECT_TRUE(live.ckAlarms);
+        EXPECT_EQ(live.ckColor, 0);
+        EXPECT_EQ(live.ckDelete, 1);
+        EXPECT_EQ(live.ckApplyGraduated, 0);
+        EXPECT_EQ(live.ckOnDay, 1);
+        EXPECT_EQ(live.ckPopulateInvoices, 0);
+        EXPECT_EQ(live.ckDeliveryCharge, 0);
+        EXPECT_TRUE(live.optPlain);
+        EXPECT_FALSE(live.optReturn);
+        EXPECT_EQ(live.txtGradulated[0], u"$0.00"_s);
+        EXPECT_EQ(live.txtGradulated[1], u"$0.00"_s);
+        EXPECT_EQ(live.txtDeliveryCharge, u"$0.00"_s);
+        EXPECT_EQ(live.cboTaxHeading1, u"Sales Tax"_s);
+        EXPECT_EQ(live.cboTaxHeading2, u"Tax"_s);
+        EXPECT_EQ(live.cboRate1, u"4.0"_s);
+        EXPECT_EQ(live.cboRate2, u"4.0"_s);
+        EXPECT_EQ(live.ckApply1stTax, 0);
+        EXPECT_EQ(live.ckApply2ndTax, 0);
+        EXPECT_EQ(live.BorderColor, 0);
+        EXPECT_EQ(live.TextColor, 0);
+        EXPECT_EQ(live.CurrentPrintColor, 0U);
+        EXPECT_EQ(live.DocumentFont, u"Arial"_s);
+        EXPECT_TRUE(live.PrintInColorFlag);
+        EXPECT_EQ(live.PrintCopies, 3);
+        EXPECT_EQ(live.logoFile, QString());
+        EXPECT_EQ(live.logoWidth, 1440);
+        EXPECT_EQ(live.logoHeight, 1440);
+    }
+
     void ExpectTheEightFilesWithoutAmounts() const {
         EXPECT_EQ(folder.Read(u"MyBusinessData.txt"_s),
                   "\"Corner Dairy\",\"12 Mill Road\",\"\",\"Springfield\",\"IL\",\"62704\","
@@ -172,42 +209,10 @@ protected:
 
 TEST_F(SettingsStoreTest, FolderWithoutFilesStartsWithTheDefaults) {
     Restart();
-    EXPECT_EQ(live.BusinessData, (std::array<QString, 9>()));
+    ExpectDefaults();
     EXPECT_EQ(live.ReservedSetting, 8);
-    EXPECT_EQ(live.WorkWeek, 5);
-    EXPECT_EQ(live.shownWorkWeek, 5);
-    EXPECT_TRUE(live.AlarmOn);
-    EXPECT_TRUE(live.PromptsOn);
     EXPECT_FALSE(live.CallerIdOn);
-    EXPECT_TRUE(live.ckPrompts);
-    EXPECT_TRUE(live.ckAlarms);
     EXPECT_FALSE(live.ckCallerID);
-    EXPECT_EQ(live.ckColor, 0);
-    EXPECT_EQ(live.ckDelete, 1);
-    EXPECT_EQ(live.ckApplyGraduated, 0);
-    EXPECT_EQ(live.ckOnDay, 1);
-    EXPECT_EQ(live.ckPopulateInvoices, 0);
-    EXPECT_EQ(live.ckDeliveryCharge, 0);
-    EXPECT_TRUE(live.optPlain);
-    EXPECT_FALSE(live.optReturn);
-    EXPECT_EQ(live.txtGradulated[0], u"$0.00"_s);
-    EXPECT_EQ(live.txtGradulated[1], u"$0.00"_s);
-    EXPECT_EQ(live.txtDeliveryCharge, u"$0.00"_s);
-    EXPECT_EQ(live.cboTaxHeading1, u"Sales Tax"_s);
-    EXPECT_EQ(live.cboTaxHeading2, u"Tax"_s);
-    EXPECT_EQ(live.cboRate1, u"4.0"_s);
-    EXPECT_EQ(live.cboRate2, u"4.0"_s);
-    EXPECT_EQ(live.ckApply1stTax, 0);
-    EXPECT_EQ(live.ckApply2ndTax, 0);
-    EXPECT_EQ(live.BorderColor, 0);
-    EXPECT_EQ(live.TextColor, 0);
-    EXPECT_EQ(live.CurrentPrintColor, 0U);
-    EXPECT_EQ(live.DocumentFont, u"Arial"_s);
-    EXPECT_TRUE(live.PrintInColorFlag);
-    EXPECT_EQ(live.PrintCopies, 3);
-    EXPECT_EQ(live.logoFile, QString());
-    EXPECT_EQ(live.logoWidth, 1440);
-    EXPECT_EQ(live.logoHeight, 1440);
     EXPECT_EQ(live.cmdAddress, u"USA Style Address"_s);
 }
 
@@ -219,20 +224,13 @@ TEST_F(SettingsStoreTest, LoadingMakesNoFile) {
 
 TEST_F(SettingsStoreTest, MissingFilesPutTheirDefaultsInThePlaceOfWhatWasThere) {
     SetEverything();
+    live.shownWorkWeek = 62;
+    live.CurrentPrintColor = 0xff0000;
     store.LoadAll();
-    EXPECT_EQ(live.BusinessData[0], QString());
-    EXPECT_EQ(live.WorkWeek, 5);
-    EXPECT_TRUE(live.AlarmOn);
-    EXPECT_EQ(live.ckDelete, 1);
-    EXPECT_TRUE(live.optPlain);
-    EXPECT_EQ(live.txtGradulated[0], u"$0.00"_s);
-    EXPECT_EQ(live.txtDeliveryCharge, u"$0.00"_s);
-    EXPECT_EQ(live.cboTaxHeading2, u"Tax"_s);
-    EXPECT_EQ(live.ckApply1stTax, 0);
-    EXPECT_EQ(live.DocumentFont, u"Arial"_s);
-    EXPECT_EQ(live.PrintCopies, 3);
-    EXPECT_EQ(live.logoFile, QString());
-    EXPECT_EQ(live.logoWidth, 1440);
+    ExpectDefaults();
+    // Settings.txt is no part of what the setup screen loads.
+    EXPECT_EQ(live.ReservedSetting, 9);
+    EXPECT_TRUE(live.CallerIdOn);
 }
 
 TEST_F(SettingsStoreTest, ZeroAmountsAreInTheRegionsCurrencyForm) {
@@ -473,6 +471,18 @@ TEST_F(SettingsStoreTest, SavingClosesAllFiles) {
     }
 }
 
+TEST_F(SettingsStoreTest, LoadingLeavesNoFileOpen) {
+    for (const SettingsFile& file : AllFiles()) {
+        folder.Write(file.name, file.Bytes());
+        office.disk.DiskFile = 0;
+        Load(file);
+        EXPECT_NE(office.disk.DiskFile, 0) << file.name.toStdString();
+        EXPECT_EQ(FailureOf([&] { office.disk.InputOn(office.disk.DiskFile); }).Kind(),
+                  FailureKind::FileNotOpen)
+            << file.name.toStdString();
+    }
+}
+
 // The two copies of a setting.
 
 TEST_F(SettingsStoreTest, SettingsFileOverrulesSharedValuesAndLeavesWhatTheScreenShows) {
@@ -590,6 +600,13 @@ TEST_F(SettingsStoreTest, UnknownWorkWeekIsFiveAndTheNextSaveWritesFive) {
     }
 }
 
+TEST_F(SettingsStoreTest, UnknownWorkWeekIsSavedAsFiveToTheSettingsFileToo) {
+    folder.Write(workDays.name, "6\r\n");
+    Restart();
+    Save(settingsTxt);
+    EXPECT_EQ(folder.Read(settingsTxt.name), "8\r\n5\r\n#TRUE#\r\n#TRUE#\r\n#FALSE#\r\n");
+}
+
 TEST_F(SettingsStoreTest, UnknownWorkWeekInTheSettingsFileIsNotCorrected) {
     folder.Write(settingsTxt.name, "8\r\n6\r\n#TRUE#\r\n#TRUE#\r\n#FALSE#\r\n");
     Restart();
@@ -694,6 +711,31 @@ TEST_F(SettingsStoreTest, DeliveryChargeThatIsNoNumberFailsAtLoadingAndAtSaving)
                                  "DeliverySettings.txt)."_s);
 }
 
+TEST_F(SettingsStoreTest, DeliveryChargeThatIsNoNumberLeavesTheFileAndItsCopyAsTheyWere) {
+    Restart();
+    folder.Write(deliverySettings.name, deliverySettings.Bytes());
+    folder.Write(u"Backup/DeliverySettings.txt"_s, "older");
+    live.txtDeliveryCharge = u"twelve"_s;
+    EXPECT_EQ(FailureOf([&] { store.SaveAppSettings(); }).Kind(), FailureKind::TypeMismatch);
+    EXPECT_EQ(folder.Read(deliverySettings.name), deliverySettings.Bytes());
+    EXPECT_EQ(folder.Read(u"Backup/DeliverySettings.txt"_s), "older");
+}
+
+TEST_F(SettingsStoreTest, AmountsOfAnotherRegionFailAtTheDeliveryChargeAlone) {
+    UseLocale("de_DE");
+    const RuntimeFailure failure = FailureOfLoading(
+        deliverySettings, "0,1,0,1,0,0,#TRUE#,#FALSE#,\"$0.00\",\"$0.00\",\"$0.00\"\r\n");
+    EXPECT_EQ(failure.Kind(), FailureKind::TypeMismatch);
+    EXPECT_EQ(failure.Sentence(),
+              u"The text \"$0.00\" is not a number (reading field 11 of DeliverySettings.txt)."_s);
+    folder.Write(deliverySettings.name,
+                 "0,1,0,1,0,0,#TRUE#,#FALSE#,\"$1,000.00\",\"$2.50\",\"12,5\"\r\n");
+    Load(deliverySettings);
+    EXPECT_EQ(live.txtGradulated[0], u"$1,000.00"_s);
+    EXPECT_EQ(live.txtGradulated[1], u"$2.50"_s);
+    EXPECT_EQ(live.txtDeliveryCharge, u"12,50\u00a0\u20ac"_s);
+}
+
 TEST_F(SettingsStoreTest, AmountBeyondTheCurrencyRangeFailsByName) {
     const QByteArray start = "0,1,0,1,0,0,#TRUE#,#FALSE#,";
     for (const char* amounts :
@@ -712,6 +754,18 @@ TEST_F(SettingsStoreTest, BusinessDataIsTakenAsItStands) {
                                               "\"\",\"\",\"\",\"\",\"\"\r\n");
     Load(businessData);
     EXPECT_EQ(live.BusinessData[0], u" Gr\u00fcn, Wei\u00df & Co \u20ac ? "_s);
+}
+
+TEST_F(SettingsStoreTest, QuoteInABusinessTextIsWrittenAsItIsAndShiftsTheFieldsOnReading) {
+    live.BusinessData = {u"12\" Pipes"_s, u"1 Quarry Road"_s, u"2"_s, u"3"_s, u"4"_s,
+                         u"5"_s,          u"6"_s,             u"7"_s, u"8"_s};
+    Save(businessData);
+    EXPECT_EQ(folder.Read(businessData.name), "\"12\" Pipes\",\"1 Quarry Road\",\"2\",\"3\",\"4\","
+                                              "\"5\",\"6\",\"7\",\"8\"\r\n");
+    Load(businessData);
+    EXPECT_EQ(live.BusinessData,
+              (std::array<QString, 9>{u"12"_s, u"Pipes\""_s, u"1 Quarry Road"_s, u"2"_s, u"3"_s,
+                                      u"4"_s, u"5"_s, u"6"_s, u"7"_s}));
 }
 
 // Bad input.
@@ -783,6 +837,22 @@ TEST_F(SettingsStoreTest, NumberOutsideItsTypeFailsByName) {
             FailureOfLoading(row.file, row.file.With(row.field, row.value));
         EXPECT_EQ(failure.Kind(), FailureKind::Overflow) << row.value.toStdString();
         EXPECT_TRUE(failure.Sentence().startsWith(u"Reading "_s + row.file.name)) << failure.what();
+    }
+}
+
+TEST_F(SettingsStoreTest, TaxFlagsAreSixteenBitNumbers) {
+    const QByteArray edges = "\"A\",\"B\",\"1\",\"2\",32767,-32768\r\n";
+    folder.Write(taxSettings.name, edges);
+    Load(taxSettings);
+    EXPECT_EQ(live.ckApply1stTax, 32'767);
+    EXPECT_EQ(live.ckApply2ndTax, -32'768);
+    Save(taxSettings);
+    EXPECT_EQ(folder.Read(taxSettings.name), edges);
+    for (const size_t field : {size_t(4), size_t(5)}) {
+        for (const char* value : {"32768", "-32769"})
+            EXPECT_EQ(FailureOfLoading(taxSettings, taxSettings.With(field, value)).Kind(),
+                      FailureKind::Overflow)
+                << field << ' ' << value;
     }
 }
 

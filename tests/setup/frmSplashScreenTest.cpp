@@ -55,6 +55,24 @@ TEST_F(SplashScreen, FileLostButInBackupIsBroughtBackAndTheMenuOpens) {
     EXPECT_EQ(folder.Read(u"Settings.txt"_s), QByteArray("8\r\n"));
 }
 
+TEST_F(SplashScreen, LookForTheThreeFilesEndsAtTheFirstThatIsMissing) {
+    folder.Write(u"Backup/Settings.txt"_s, "8\r\n");
+    folder.Write(u"Backup/DeliverySettings.txt"_s, "0\r\n");
+    screens.Show(splash);
+    Click(splash, u"cmdContinue"_s);
+    EXPECT_TRUE(WelcomeIsShown());
+    EXPECT_FALSE(folder.Has(u"Settings.txt"_s));
+    folder.Write(u"MyBusinessData.txt"_s, {});
+    folder.Remove(u"Backup/Settings.txt"_s);
+    Click(splash, u"cmdContinue"_s);
+    EXPECT_FALSE(folder.Has(u"DeliverySettings.txt"_s));
+    folder.Write(u"Settings.txt"_s, {});
+    WriteMasterFiles();
+    Click(splash, u"cmdContinue"_s);
+    EXPECT_EQ(folder.Read(u"DeliverySettings.txt"_s), "0\r\n");
+    EXPECT_TRUE(IsShown(ScreenName::frmStartup));
+}
+
 TEST_F(SplashScreen, ContinueOnASetUpSystemShowsTheMenuAndDestroysTheTitle) {
     WriteSetUpFiles();
     WriteMasterFiles();

@@ -100,6 +100,17 @@ TEST_F(DeliverySlipRoutinesTest, CounterHoldingZeroOrTextRestartsFromTheYearsFir
     }
 }
 
+TEST_F(DeliverySlipRoutinesTest, CounterIsReadTheSameInARegionWithTheComma) {
+    UseLocale("de_DE");
+    const std::pair<QByteArray, qint32> cases[] = {
+        {"20260014\r\n", 20260014}, {"12.5\r\n", 12}, {"$5\r\n", 20260001}};
+    for (const auto& [bytes, number] : cases) {
+        folder.Write(counterFile, bytes);
+        slips.LoadDeliveryNo();
+        EXPECT_EQ(slips.NextSlipNumber, number) << bytes.toStdString();
+    }
+}
+
 TEST_F(DeliverySlipRoutinesTest, CounterIsBroughtBackFromBackupAndThatCopyGoes) {
     folder.Write(u"Backup/NQDeliveryNo.txt"_s, "777\r\n");
     slips.LoadDeliveryNo();
@@ -229,8 +240,26 @@ TEST_F(DeliverySlipRoutinesTest, BothFilesBearTheTrimmedNumber) {
     header[SlipLine::SlipNumber] = u"500 "_s;
     slips.WriteSlipHeader(header);
     slips.WriteSlipItems(grid, u"500 "_s, 0, u"$1.00"_s);
-    EXPECT_TRUE(folder.Has(deliveries + u"500.txt"_s));
+    EXPECT_EQ(folder.Read(deliveries + u"500.txt"_s).left(16), "500\r\n3/16/2026\r\n");
     EXPECT_EQ(folder.Read(deliveryItems + u"500.txt"_s), "500\r\n0\r\n\"$1.00\"\r\n");
+}
+
+TEST_F(DeliverySlipRoutinesTest, HeaderLinesAreWrittenWithoutBlanksAtTheirEnds) {
+    SlipHeader header = CornerGrocery();
+    for (QString& line : header.table)
+        line = u"  "_s + line + u' ';
+    for (auto* address : {&header.soldTo, &header.deliverTo}) {
+        for (QString& line : *address)
+            line = u' ' + line + u"  "_s;
+    }
+    slips.WriteSlipHeader(header);
+    office.disk.CloseAllFiles();
+    EXPECT_EQ(folder.Read(deliveries + u"20260014.txt"_s),
+              "20260014\r\n3/16/2026\r\n08:30am\r\nTrue\r\n0000001\r\nFlatbed Truck\r\n4471\r\n"
+              "Corner Grocery\r\nPrepared 3/9/2026\r\nBack door\r\n"
+              "\"Corner Grocery\"\r\n\"12 Mill Road\"\r\n\"\"\r\n\"Springfield\"\r\n\"IL\"\r\n"
+              "\"62704\"\r\n\"Caf\xe9 Gr\xfcn\"\r\n\"9 Elm Street\"\r\n\"Apt 4\"\r\n"
+              "\"Springfield\"\r\n\"IL\"\r\n\"62705\"\r\n");
 }
 
 TEST_F(DeliverySlipRoutinesTest, ItemFileHoldsFourLinesAnItemInGridOrder) {
@@ -270,9 +299,16 @@ TEST_F(DeliverySlipRoutinesTest, OnlyTheCountedRowsAreWritten) {
               "5\r\n1\r\n1\r\nSand\r\n$1.00\r\n$1.00\r\n\"$1.00\"\r\n");
 }
 
-TEST_F(DeliverySlipRoutinesTest, CountBeyondTheGridIsASubscriptFailure) {
-    EXPECT_EQ(FailureOf([&] { slips.WriteSlipItems(grid, u"5"_s, 1, {}); }).Kind(),
+TEST_F(DeliverySlipRoutinesTest, CountBeyondTheGridIsASubscriptFailureBehindTheRowsThatAreThere) {
+    AddItem(u"2"_s, u"Sand"_s, u"$5.00"_s, u"$10.00"_s);
+    folder.Write(deliveryItems + u"5.txt"_s, "5\r\n0\r\n\"$7.00\"\r\n");
+    EXPECT_EQ(FailureOf([&] { slips.WriteSlipItems(grid, u"5"_s, 2, u"$10.00"_s); }).Kind(),
               FailureKind::Subscript);
+    // The old goods are gone at once, and the new file ends in the middle when it is closed.
+    EXPECT_EQ(folder.Read(deliveryItems + u"5.txt"_s), "");
+    office.disk.CloseAllFiles();
+    EXPECT_EQ(folder.Read(deliveryItems + u"5.txt"_s),
+              "5\r\n2\r\n2\r\nSand\r\n$5.00\r\n$10.00\r\n");
 }
 
 TEST_F(DeliverySlipRoutinesTest, DescriptionWithACommaReadsBackShiftedByOneField) {
@@ -349,6 +385,41 @@ TEST_F(DeliverySlipRoutinesTest, LeftoverTempFileIsNoSlipAndGoes) {
     slips.LoadSlips(true);
     EXPECT_EQ(slips.SlipCount, 0);
     EXPECT_FALSE(folder.Has(deliveries + u"TempFile.txt"_s));
+}
+
+TEST_F(DeliverySlipRoutinesTest, LeftoverTempFileBesideSlipsGoesWithoutThePastPassToo) {
+    PutSlip("500", "3/12/2026");
+    PutSlip("501", "3/13/2026");
+    folder.Write(deliveries + u"TempFile.txt"_s, SlipHeaderBytes("500", "3/12/2026"));
+    slips.LoadSlips(false);
+    EXPECT_EQ(slips.SlipCount, 2);
+    EXPECT_EQ(slips.Table.Text(SlipLine::SlipNumber, 2), u"501"_s);
+    EXPECT_FALSE(folder.Has(deliveries + u"TempFile.txt"_s));
+}
+
+TEST_F(DeliverySlipRoutinesTest, LoadingLeavesNoFileOpen) {
+    PutSlip("500", "3/12/2026");
+    for (const bool processPast : {false, true}) {
+        office.disk.DiskFile = 0;
+        slips.LoadSlips(processPast);
+        EXPECT_NE(office.disk.DiskFile, 0);
+        EXPECT_EQ(FailureOf([&] { office.disk.InputOn(office.disk.DiskFile); }).Kind(),
+                  FailureKind::FileNotOpen);
+    }
+}
+
+TEST_F(DeliverySlipRoutinesTest, FolderThatShrankGivesItsNewCountAndFreshEntries) {
+    for (const char* number : {"1", "2", "3"})
+        PutSlip(number, "3/12/2026");
+    slips.LoadSlips(false);
+    EXPECT_EQ(slips.SlipCount, 3);
+    folder.Remove(deliveries + u"1.txt"_s);
+    folder.Remove(deliveries + u"3.txt"_s);
+    PutSlip("2", "3/13/2026");
+    slips.LoadSlips(false);
+    EXPECT_EQ(slips.SlipCount, 1);
+    EXPECT_EQ(slips.Table.Text(SlipLine::SlipNumber, 1), u"2"_s);
+    EXPECT_EQ(slips.Table.Text(SlipLine::Date, 1), u"3/13/2026"_s);
 }
 
 TEST_F(DeliverySlipRoutinesTest, FreshTableHasNoEntry) {
@@ -643,7 +714,9 @@ TEST_F(DeliverySlipRoutinesTest, SlotIsFreeWhetherItIsTakenOrNot) {
 TEST_F(DeliverySlipRoutinesTest, SlotWalkStopsAtTheFirstMatch) {
     // The walk reads each date up to the match, so what lies behind it can't fail.
     folder.Write(deliveries + u"1.txt"_s,
-                 SlipHeaderBytes("1", "3/12/2026").replace("08:30am", " 08:30am "));
+                 SlipHeaderBytes("1", "3/12/2026")
+                     .replace("08:30am", " 08:30am ")
+                     .replace("Flatbed Truck", "  Flatbed Truck "));
     PutSlip("2", "no date");
     slips.LoadSlips(false);
     EXPECT_TRUE(slips.IsSlotFree(QDate(2026, 3, 12), u"08:30am"_s, u"Flatbed Truck"_s));

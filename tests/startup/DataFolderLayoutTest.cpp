@@ -138,6 +138,8 @@ TEST_F(DataFolderLayoutTest, TooManyCustomersIsAnOverflow) {
     ASSERT_TRUE(QFile::resize(folder.PathOf(u"CustomerData.txt"_s), qint64(32'768) * 328));
     EXPECT_EQ(FailureOf([this] { Create(); }).Kind(), FailureKind::Overflow);
     EXPECT_EQ(AccountFolders(), QStringList());
+    EXPECT_TRUE(folder.Has(u"AuxFiles"_s));
+    EXPECT_FALSE(folder.Has(u"TesselDelivery"_s));
 }
 
 TEST_F(DataFolderLayoutTest, DeliveryFoldersAreTheFourOfSlipsAndTemplates) {

@@ -1,4 +1,6 @@
 #include "startup/StartUp.h"
+
+#include "platform/FolderLock.h"
 #include "support/SampleSlips.h"
 #include "support/ScreenTest.h"
 
@@ -15,10 +17,12 @@ class WatchingOperator : public ScriptedOperator {
 public:
     Screens* Watched = nullptr;
     bool SplashWasUp = false;
+    bool BoardWasMade = false;
     bool MenuWasMade = false;
 
     Answer MsgBox(const QString& text, Buttons buttons, const QString& title) override {
         SplashWasUp = Watched->Find(ScreenName::frmSplash)->isVisible();
+        BoardWasMade = Watched->Find(ScreenName::frmPrintSchedules) != nullptr;
         MenuWasMade = Watched->Find(ScreenName::frmStartup) != nullptr;
         return ScriptedOperator::MsgBox(text, buttons, title);
     }
@@ -26,7 +30,27 @@ public:
 
 } // namespace
 
-class StartUpSequence : public ScreenTest {};
+class StartUpSequence : public ScreenTest {
+protected:
+    QStringList AddItemNames() const {
+        const GridModel& grid = office.items.fgAddItems;
+        constexpr int descriptionColumn = 2;
+        QStringList names;
+        for (int row = 1; row <= grid.DataRows(); ++row)
+            names += grid.Text(row, descriptionColumn);
+        return names;
+    }
+};
+
+/// A priced item at $4.10, with stock numbers of no account.
+QByteArray PricedItemBytes(const QByteArray& name) {
+    return name.leftJustified(50, ' ') + QByteArray(20, ' ') + QByteArray(8, '\0') +
+           QByteArray("\x28\xa0\0\0\0\0\0\0", 8) + QByteArray(18, '\0');
+}
+
+QByteArray NonPricedItemBytes(const QByteArray& name) {
+    return name.leftJustified(50, ' ') + QByteArray(6, '\0');
+}
 
 TEST_F(StartUpSequence, EmptyFolderGetsItsFoldersAndNoFile) {
     Main(office, screens);
@@ -50,17 +74,14 @@ TEST_F(StartUpSequence, EmptyFolderGetsItsFoldersAndNoFile) {
 
 TEST_F(StartUpSequence, ThreePastRecurringSlipsAskThreeQuestionsAndMoveOn) {
     for (const QString& number : {u"1"_s, u"2"_s, u"3"_s})
-        WriteSlip(office, {.number = number,
-                           .date = u"3/3/2026"_s,
-                           .recurring = u"True"_s,
-                           .frequency = u"0000001"_s});
+        WriteSlip(folder, {.number = number, .date = u"3/3/2026"_s});
     for (int i = 0; i < 3; ++i) {
         user.ExpectQuestion(question, questionTitle, Answer::No);
         user.ExpectMessage(moved);
     }
     Main(office, screens);
     for (const QString& number : {u"1"_s, u"2"_s, u"3"_s})
-        EXPECT_TRUE(folder.Read(u"TesselDelivery/Deliveries/%1.txt"_s.arg(number))
+        EXPECT_TRUE(folder.Read(HeaderName(number))
                         .startsWith(number.toLatin1() + "\r\n3/10/2026\r\n"));
 }
 
@@ -78,20 +99,29 @@ TEST_F(StartUpSequence, SettingsFileOverrulesTheOtherTwo) {
 
 TEST_F(StartUpSequence, VehiclesAndItemsAreThereWhenTheMenuComes) {
     WriteVehicles(office, {u"Van 2"_s});
-    SalesItem item{};
-    item.Description = u"Milk"_s;
-    item.SellPrice = Currency::OfTenThousandths(41'000);
-    office.disk.OpenRandom(u"/NXInventoriedItems.txt"_s, sizeof(SalesItem));
-    WriteRecord(office.disk, office.disk.DiskFile, 1, item);
-    office.disk.CloseAllFiles();
+    folder.Write(u"NXInventoriedItems.txt"_s, PricedItemBytes("Milk"));
+    folder.Write(u"NonInventoriedItems.txt"_s,
+                 NonPricedItemBytes("Leaflet") + NonPricedItemBytes("Crate"));
     Main(office, screens);
     EXPECT_EQ(office.fleet.Names.stringList(), QStringList{u"Van 2"_s});
     EXPECT_EQ(office.items.ProductNames.stringList(), QStringList{u"Milk"_s});
     EXPECT_EQ(office.items.ProductPrices.stringList(), QStringList{u"$4.10"_s});
+    EXPECT_EQ(office.items.NonPricedNames.stringList(), (QStringList{u"Leaflet"_s, u"Crate"_s}));
+    EXPECT_EQ(AddItemNames(), (QStringList{u"Milk"_s, u"Leaflet"_s, u"Crate"_s}));
 }
 
-TEST_F(StartUpSequence, QuestionsComeOverTheTitleScreenBeforeTheMenuIsMade) {
-    WriteSlip(office, {.number = u"7"_s, .date = u"3/6/2026"_s});
+TEST_F(StartUpSequence, ItemFilesLostButInBackupAreBroughtBackAndLoaded) {
+    folder.Write(u"Backup/NXInventoriedItems.txt"_s, PricedItemBytes("Milk"));
+    folder.Write(u"Backup/NonInventoriedItems.txt"_s, NonPricedItemBytes("Leaflet"));
+    Main(office, screens);
+    EXPECT_EQ(folder.Read(u"NXInventoriedItems.txt"_s), PricedItemBytes("Milk"));
+    EXPECT_EQ(folder.Read(u"NonInventoriedItems.txt"_s), NonPricedItemBytes("Leaflet"));
+    EXPECT_EQ(office.items.ProductNames.stringList(), QStringList{u"Milk"_s});
+    EXPECT_EQ(AddItemNames(), (QStringList{u"Milk"_s, u"Leaflet"_s}));
+}
+
+TEST_F(StartUpSequence, QuestionsComeOverTheTitleScreenBehindTheBoardAndBeforeTheMenuIsMade) {
+    WriteSlip(folder, {.number = u"7"_s, .date = u"3/6/2026"_s, .recurring = u"False"_s});
     WatchingOperator watcher;
     Office watched(folder.Path(), {clock, watcher, printer, browser});
     Screens itsScreens(watched);
@@ -99,6 +129,7 @@ TEST_F(StartUpSequence, QuestionsComeOverTheTitleScreenBeforeTheMenuIsMade) {
     watcher.ExpectMessage(u"Delivery Slip 7 scheduled for 3/6/2026 has been Deleted"_s);
     Main(watched, itsScreens);
     EXPECT_TRUE(watcher.SplashWasUp);
+    EXPECT_TRUE(watcher.BoardWasMade);
     EXPECT_FALSE(watcher.MenuWasMade);
 }
 
@@ -112,4 +143,45 @@ TEST_F(StartUpSequence, BrokenSettingsFileStopsBeforeAnyFolderIsMade) {
     EXPECT_EQ(failure.Kind(), FailureKind::ReadPastEnd);
     EXPECT_TRUE(failure.Sentence().contains(u"TaxSettings.txt"_s));
     EXPECT_EQ(bare.Everything(), (QStringList{u"Settings.txt"_s, u"TaxSettings.txt"_s}));
+}
+
+TEST_F(StartUpSequence, CutSettingsFileStopsBehindTheFoldersAndBeforeTheBoardIsMade) {
+    TestFolder bare;
+    bare.Write(u"Settings.txt"_s, "8\r\n");
+    Office stopped(bare.Path(), {clock, user, printer, browser});
+    Screens itsScreens(stopped);
+    const RuntimeFailure failure = FailureOf([&] { Main(stopped, itsScreens); });
+    EXPECT_EQ(failure.Kind(), FailureKind::ReadPastEnd);
+    EXPECT_TRUE(failure.Sentence().contains(u"Settings.txt"_s)) << failure.what();
+    EXPECT_EQ(bare.Everything(),
+              (QStringList{u"2026/"_s, u"AuxFiles/"_s, u"Backup/"_s, u"Backup/NXActiveAccounts/"_s,
+                           u"Backup/tessel-delivery/"_s, u"NXActiveAccounts/"_s, u"Settings.txt"_s,
+                           u"Templates/"_s, u"Templates/Deliveries/"_s, u"TesselDelivery/"_s,
+                           u"TesselDelivery/Deliveries/"_s, u"TesselDelivery/DeliveryItems/"_s}));
+    EXPECT_TRUE(itsScreens.Find(ScreenName::frmSplash)->isVisible());
+    EXPECT_EQ(itsScreens.Find(ScreenName::frmPrintSchedules), nullptr);
+}
+
+TEST_F(StartUpSequence, FileInTheWayOfTheSlipFoldersStopsUnderTheTitleScreen) {
+    TestFolder bare;
+    bare.Write(u"TesselDelivery"_s, "a file");
+    Office stopped(bare.Path(), {clock, user, printer, browser});
+    Screens itsScreens(stopped);
+    const RuntimeFailure failure = FailureOf([&] { Main(stopped, itsScreens); });
+    EXPECT_EQ(failure.Kind(), FailureKind::PathNotFound);
+    EXPECT_TRUE(failure.Sentence().contains(u"TesselDelivery/Deliveries"_s)) << failure.what();
+    EXPECT_TRUE(itsScreens.Find(ScreenName::frmSplash)->isVisible());
+    EXPECT_EQ(itsScreens.Find(ScreenName::frmPrintSchedules), nullptr);
+    EXPECT_EQ(bare.Read(u"TesselDelivery"_s), "a file");
+}
+
+TEST_F(StartUpSequence, SecondCopyOnTheSameFolderIsToldAndMayNotRun) {
+    const FolderLock first(folder.Path());
+    user.ExpectMessage(u"Tessel Delivery is already Running!\nLook for it on the Task Bar"_s);
+    EXPECT_FALSE(CheckSingleInstance(FolderLock(folder.Path()), user));
+    user.ExpectNothingLeft();
+}
+
+TEST_F(StartUpSequence, OnlyCopyRunsWithoutAMessage) {
+    EXPECT_TRUE(CheckSingleInstance(FolderLock(folder.Path()), user));
 }

@@ -35,6 +35,12 @@ protected:
     }
 
     bool PanelIsShown() { return Find<QWidget>(menu, u"fraNoCustomerFound"_s)->isVisible(); }
+    static QStringList TextsIn(const QWidget* part) {
+        QStringList texts;
+        for (const QLabel* label : part->findChildren<QLabel*>())
+            texts += label->text();
+        return texts;
+    }
     void Trigger(const QString& item) { Find<QAction>(menu, item)->trigger(); }
 };
 
@@ -98,15 +104,64 @@ TEST_F(StartupScreen, VehiclesDeletedOnAWorkingSystemAreAskedForAtTheNextActivat
     user.ExpectMessage(u"Create at least One Delivery Vehicle Now"_s);
     user.ExpectMessage(notBuilt);
     screens.Show(menu);
+    EXPECT_EQ(Open(), (QList<int>{4, 7, 8, 9}));
 }
 
-TEST_F(StartupScreen, ProductsInBackupCount) {
+TEST_F(StartupScreen, MasterFilesInBackupCount) {
+    for (const QString& name :
+         {u"NXInventoriedItems.txt"_s, u"Vehicles.txt"_s, u"CustomerData.txt"_s}) {
+        WriteMasterFiles();
+        folder.Remove(name);
+        folder.Write(u"Backup/"_s + name, "kept");
+        screens.Show(menu);
+        EXPECT_EQ(Open().size(), 10) << name.toStdString();
+        EXPECT_EQ(folder.Read(name), "kept");
+    }
+}
+
+TEST_F(StartupScreen, CustomerPanelGoesWhenTheFileHasCome) {
     WriteMasterFiles();
-    folder.Remove(u"NXInventoriedItems.txt"_s);
-    folder.Write(u"Backup/NXInventoriedItems.txt"_s, {});
+    folder.Remove(u"CustomerData.txt"_s);
     screens.Show(menu);
+    EXPECT_TRUE(PanelIsShown());
+    folder.Write(u"CustomerData.txt"_s, {});
+    screens.Show(menu);
+    EXPECT_FALSE(PanelIsShown());
     EXPECT_EQ(Open().size(), 10);
-    EXPECT_TRUE(folder.Has(u"NXInventoriedItems.txt"_s));
+}
+
+TEST_F(StartupScreen, HeadingsStandOverTheRoutines) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    const QStringList texts = TextsIn(screens.Find(menu));
+    for (const QString& text : {u"Delivery Scheduling Routines"_s, u"Delivery Routines"_s,
+                                u"Data File Routines"_s, u"Reports"_s,
+                                u"Click on a Routine to Run it"_s})
+        EXPECT_EQ(texts.count(text), 1) << text.toStdString();
+}
+
+TEST_F(StartupScreen, CustomerPanelTellsItsTexts) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    EXPECT_EQ(TextsIn(Find<QWidget>(menu, u"fraNoCustomerFound"_s)),
+              (QStringList{u"No Customers Found"_s, u"Your Customer file  was not Found"_s,
+                           u"Click Goto and create Customer Records"_s,
+                           u"This is Normal the 1st time you use the Program"_s}));
+    EXPECT_EQ(Find<QAbstractButton>(menu, u"cmdGoto"_s)->text(), u"Goto"_s);
+    EXPECT_EQ(Find<QAbstractButton>(menu, u"cmdCancel"_s)->text(), u"Cancel"_s);
+}
+
+TEST_F(StartupScreen, ClosedRoutineSaysWhyInItsToolTip) {
+    folder.Write(u"NXInventoriedItems.txt"_s, {});
+    folder.Write(u"Vehicles.txt"_s, {});
+    screens.Show(menu);
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(Routine(i)->toolTip().isEmpty(), Routine(i)->isEnabled()) << i;
+    EXPECT_FALSE(Routine(0)->isEnabled());
+    WriteMasterFiles();
+    screens.Show(menu);
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(Routine(i)->toolTip(), QString()) << i;
 }
 
 TEST_F(StartupScreen, CancelOfTheCustomerPanelOpensVehiclesAndProducts) {
@@ -125,6 +180,25 @@ TEST_F(StartupScreen, GotoOpensTheItemSalesReport) {
     user.ExpectMessage(notBuilt);
     Click(menu, u"cmdGoto"_s);
     EXPECT_EQ(office.MenuChoice, 8);
+}
+
+TEST_F(StartupScreen, EnterOnAFocusedButtonClicksIt) {
+    folder.Write(u"NXInventoriedItems.txt"_s, {});
+    folder.Write(u"Vehicles.txt"_s, {});
+    screens.Show(menu);
+    auto* cmdGoto = Find<QAbstractButton>(menu, u"cmdGoto"_s);
+    cmdGoto->setFocus();
+    user.ExpectMessage(notBuilt);
+    Press(cmdGoto, Qt::Key_Return);
+    EXPECT_EQ(office.MenuChoice, 8);
+}
+
+TEST_F(StartupScreen, CreateItemLeavesTheOperatorOnTheMenu) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    user.ExpectMessage(notBuilt);
+    Trigger(u"mnuCreate"_s);
+    EXPECT_TRUE(IsShown(menu));
 }
 
 TEST_F(StartupScreen, ClickOnARoutineHidesTheMenuAndShowsItsScreen) {
@@ -179,6 +253,21 @@ TEST_F(StartupScreen, ExitAndTheCloseBoxAskForTheEnd) {
     EXPECT_EQ(exitRequests, 1);
     CloseByUser(menu);
     EXPECT_EQ(exitRequests, 2);
+}
+
+TEST_F(StartupScreen, OnlyTheUsersCloseOfAScreenAsksForTheEnd) {
+    WriteMasterFiles();
+    int requests = 0;
+    for (const ScreenName name : {ScreenName::frmSplash, menu, ScreenName::frmPrintSchedules}) {
+        screens.Show(name);
+        screens.Find(name)->close();
+        EXPECT_FALSE(IsShown(name));
+        EXPECT_EQ(exitRequests, requests);
+        screens.Show(name);
+        CloseByUser(name);
+        EXPECT_TRUE(IsShown(name));
+        EXPECT_EQ(exitRequests, ++requests);
+    }
 }
 
 TEST_F(StartupScreen, MenuBarCarriesItsCaptions) {

@@ -600,6 +600,20 @@ TEST_F(BasicDiskRoutinesTest, ListingOfAMissingFolderIsEmpty) {
     EXPECT_TRUE(disk.ListFiles(u"/Missing"_s, u"*.txt"_s).empty());
 }
 
+TEST_F(BasicDiskRoutinesTest, ListingOfAFileIsEmpty) {
+    folder.Write(u"Slips"_s, "a file");
+    EXPECT_TRUE(disk.ListFiles(u"/Slips"_s, u"*"_s).empty());
+}
+
+TEST_F(BasicDiskRoutinesTest, ListingTakesALinkForWhatItLeadsTo) {
+    folder.Write(u"Elsewhere/Target.txt"_s, "x");
+    folder.MakeFolder(u"Slips/Folder.txt"_s);
+    Link(folder.PathOf(u"Elsewhere"_s), u"Slips/LinkToFolder.txt"_s);
+    Link(folder.PathOf(u"Elsewhere/Target.txt"_s), u"Slips/LinkToFile.txt"_s);
+    EXPECT_EQ(disk.ListFiles(u"/Slips"_s, u"*.txt"_s),
+              std::vector<QString>{u"LinkToFile.txt"_s});
+}
+
 TEST_F(BasicDiskRoutinesTest, ListedNameWithAccentsOpensTheFile) {
     folder.Write(u"Templates/Gem\u00fcse.txt"_s, "x");
     const std::vector<QString> names = disk.ListFiles(u"/Templates"_s, u"*.txt"_s);
@@ -755,6 +769,16 @@ TEST_F(BasicDiskRoutinesTest, UnreadableFileIsSkippedByTheSafetyCopy) {
     disk.BackupDataFiles();
     EXPECT_FALSE(folder.Has(u"Backup/CompanyLogo.txt"_s));
     EXPECT_EQ(folder.Read(u"Backup/TaxRecords.txt"_s), "taxes");
+}
+
+TEST_F(BasicDiskRoutinesTest, UnreadableFileLosesItsOlderSafetyCopy) {
+    folder.Write(u"CompanyLogo.txt"_s, "logo");
+    folder.Write(u"Backup/CompanyLogo.txt"_s, "older");
+    DropRootRights(folder);
+    SetRights(u"CompanyLogo.txt"_s, 0000);
+    // The older copy is deleted first, and then the file can't be copied.
+    disk.BackupDataFiles();
+    EXPECT_EQ(folder.Everything(), (QStringList{u"Backup/"_s, u"CompanyLogo.txt"_s}));
 }
 
 TEST_F(BasicDiskRoutinesTest, FolderUnderAFilesNameFailsAndStays) {

@@ -119,6 +119,18 @@ TEST_F(CalendarTest, HolidayIsToldAndADayIsAdded) {
     EXPECT_EQ(Next(monday), tuesday);
 }
 
+TEST_F(CalendarTest, HolidayLineWithATimeOfDayEqualsNoDate) {
+    Holidays("#2026-03-09 08:30:00#\r\n#2026-03-10 00:00:01#\r\n");
+    EXPECT_EQ(Next(monday), monday);
+    EXPECT_EQ(Next(tuesday), tuesday);
+}
+
+TEST_F(CalendarTest, HolidayLineWithTheTimeOfMidnightIsTheHoliday) {
+    Holidays("#2026-03-09 00:00:00#\r\n");
+    ExpectHolidayMessage(u"3/9/2026"_s);
+    EXPECT_EQ(Next(monday), tuesday);
+}
+
 TEST_F(CalendarTest, HolidayMessageShowsTheRegionalDate) {
     RegionalFormats::SetCurrent({QLocale(u"de_DE"_s), QLocale(u"de_DE"_s)});
     Holidays("#2026-03-09#\r\n");

@@ -156,8 +156,9 @@ TEST_F(ConversionsTest, LeadingNumberStopsAtTheFirstOtherCharacter) {
     EXPECT_EQ(LeadingNumber(u"4.0 %"_s), 4.0);
     EXPECT_EQ(LeadingNumber(u" 6 . 2 5"_s), 6.25);
     EXPECT_EQ(LeadingNumber(u"1.2.3"_s), 1.2);
-    EXPECT_EQ(LeadingNumber(u"-3"_s), -3.0);
-    EXPECT_EQ(LeadingNumber(u"+3-2"_s), 3.0);
+    EXPECT_EQ(LeadingNumber(u"-5"_s), 0.0);
+    EXPECT_EQ(LeadingNumber(u"+5"_s), 0.0);
+    EXPECT_EQ(LeadingNumber(u"3-2"_s), 3.0);
     EXPECT_EQ(LeadingNumber(u".5"_s), 0.5);
     EXPECT_EQ(LeadingNumber(u"5."_s), 5.0);
     EXPECT_EQ(LeadingNumber(u"."_s), 0.0);

@@ -72,11 +72,21 @@ TEST_F(FixedRecordTest, ReadersTrimTheBlanksOnBothSides) {
     EXPECT_EQ(text.Whole(), u"  Corner 7  "_s);
 }
 
-TEST_F(FixedRecordTest, TextNeverAssignedIsNulCharactersAndTrimsToNothing) {
+TEST_F(FixedRecordTest, TextNeverAssignedIsNulCharactersWhichTrimmingKeeps) {
     const FixedText<3> text{};
     EXPECT_EQ(BytesOf(text), QByteArray("\0\0\0", 3));
     EXPECT_EQ(text.Whole(), QString(3, QChar(u'\0')));
-    EXPECT_EQ(text.Trimmed(), QString());
+    EXPECT_EQ(text.Trimmed(), QString(3, QChar(u'\0')));
+}
+
+TEST_F(FixedRecordTest, TrimmingTakesNothingButBlanks) {
+    FixedText<9> text{};
+    text = u" \tVan 2\u00a0"_s;
+    EXPECT_EQ(text.Trimmed(), u"\tVan 2\u00a0"_s);
+    text = u" a"_s + QChar(u'\0') + u"b "_s;
+    EXPECT_EQ(text.Trimmed(), u"a"_s + QChar(u'\0') + u'b');
+    text.bytes = {' ', 'V', 'a', 'n', ' ', '\0', ' ', ' ', ' '};
+    EXPECT_EQ(text.Trimmed(), u"Van "_s + QChar(u'\0'));
 }
 
 TEST_F(FixedRecordTest, IntegersAreLittleEndian) {

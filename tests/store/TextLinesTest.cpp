@@ -85,6 +85,30 @@ TEST_F(TextLinesTest, SingleNumbersHaveAPointInEveryRegion) {
               "1440,1234.5\r\n0.25,-3\r\n");
 }
 
+TEST_F(TextLinesTest, SingleNumbersAreBareDecimalsWithoutAnExponent) {
+    EXPECT_EQ(Written([](TextWriter& writer) {
+                  for (const float value : {12345678.0F, 0.00001F, 1440.0F, 1440.5F, 0.0F})
+                      writer.Record(RecordLine().Single(value));
+              }),
+              "12345678\r\n0.00001\r\n1440\r\n1440.5\r\n0\r\n");
+}
+
+TEST_F(TextLinesTest, RewriteDeletesTheCopyInBackup) {
+    folder.Write(u"T.txt"_s, "a longer old content\r\n");
+    folder.Write(u"Backup/T.txt"_s, "older");
+    RewriteFile(disk, u"/T.txt"_s, {RecordLine().Number(1), RecordLine().Number(2)});
+    EXPECT_EQ(folder.Read(u"T.txt"_s), "1\r\n2\r\n");
+    EXPECT_FALSE(folder.Has(u"Backup/T.txt"_s));
+}
+
+TEST_F(TextLinesTest, WritingRecordLinesLeavesTheCopyInBackup) {
+    folder.Write(u"T.txt"_s, "a longer old content\r\n");
+    folder.Write(u"Backup/T.txt"_s, "older");
+    WriteRecordLines(disk, u"/T.txt"_s, {RecordLine().Number(1), RecordLine().Number(2)});
+    EXPECT_EQ(folder.Read(u"T.txt"_s), "1\r\n2\r\n");
+    EXPECT_EQ(folder.Read(u"Backup/T.txt"_s), "older");
+}
+
 TEST_F(TextLinesTest, TextIsWrittenInTheCodePageAndAQuestionMarkForWhatItLacks) {
     EXPECT_EQ(Written([](TextWriter& writer) {
                   writer.Plain(u"Caf\u00e9 \u20ac5 \u2013 \u0141\u00f3d\u017a \U0001F69A."_s);
@@ -199,8 +223,8 @@ TEST_F(TextLinesTest, WholeLinesAndFieldsMixInOneFile) {
 
 TEST_F(TextLinesTest, DateFieldMayCarryATime) {
     TextReader reader = Reading("#2026-12-25 08:30:00#\r\n#2026-12-26#\r\n");
-    EXPECT_EQ(reader.Date().date(), QDate(2026, 12, 25));
-    EXPECT_EQ(reader.Date().date(), QDate(2026, 12, 26));
+    EXPECT_EQ(reader.Date(), QDateTime({2026, 12, 25}, {8, 30}, Qt::UTC));
+    EXPECT_EQ(reader.Date(), QDateTime({2026, 12, 26}, {0, 0}, Qt::UTC));
 }
 
 TEST_F(TextLinesTest, ReadingPastTheEndFailsAndNamesTheFile) {
@@ -260,6 +284,10 @@ TEST_F(TextLinesTest, NumberOutsideItsTypeIsAnOverflow) {
     EXPECT_EQ(kindOf("256", byte), FailureKind::Overflow);
     EXPECT_EQ(kindOf("-1", byte), FailureKind::Overflow);
     EXPECT_EQ(kindOf("1e39", single), FailureKind::Overflow);
+    EXPECT_EQ(kindOf("1e400", int16), FailureKind::Overflow);
+    EXPECT_EQ(kindOf("1e400", int32), FailureKind::Overflow);
+    EXPECT_EQ(kindOf("1e400", single), FailureKind::Overflow);
+    EXPECT_EQ(kindOf("-1e400", int32), FailureKind::Overflow);
     EXPECT_EQ(kindOf("inf", single), FailureKind::Overflow);
     EXPECT_EQ(kindOf("nan", single), FailureKind::TypeMismatch);
     EXPECT_EQ(kindOf("nan", int16), FailureKind::TypeMismatch);
