@@ -163,7 +163,9 @@ public:
     void UseFont(const FontLook& look) {
         if (look == fontLook)
             return;
-        QFont font(look.name, look.size, look.bold ? QFont::Bold : QFont::Normal);
+        // A name that the machine doesn't know falls back to its plain narrow sans serif.
+        QFont font({look.name, u"Arial"_s, u"Liberation Sans"_s}, look.size,
+                   look.bold ? QFont::Bold : QFont::Normal);
         font.setUnderline(look.underline);
         painter.setFont(font);
         metrics = QFontMetricsF(font, &writer);

@@ -89,10 +89,10 @@ void ScheduleBoard::ChooseVehicle(const QString& vehicle) {
 
 bool ScheduleBoard::IsOnBoard(int entry) const {
     // The date comes first: a slip whose date is no date stops the board, whatever its vehicle.
-    const QDate date = ToDate(slips.Table.Text(SlipLine::Date, entry), [&] {
+    const QDate date = ToDate(slips.Table.View(SlipLine::Date, entry), [&] {
         return u"the delivery date of slip "_s + slips.Table.Text(SlipLine::SlipNumber, entry);
     });
-    return date == DTPicker1 && slips.Table.Text(SlipLine::Vehicle, entry) == lstVehicles;
+    return date == DTPicker1 && slips.Table.View(SlipLine::Vehicle, entry) == lstVehicles;
 }
 
 int ScheduleBoard::AddRow(int row, int entry) {
@@ -115,7 +115,7 @@ void ScheduleBoard::LoadScheduleGrid() {
     int row = 1;
     for (int entry = 1; entry <= slips.SlipCount; ++entry) {
         disk.CheckOpens(
-            DeliverySlipRoutines::HeaderFile(slips.Table.Text(SlipLine::SlipNumber, entry)));
+            DeliverySlipRoutines::HeaderFile(slips.Table.View(SlipLine::SlipNumber, entry)));
         if (IsOnBoard(entry))
             row = AddRow(row, entry);
     }

@@ -17,6 +17,8 @@ const QString deliveriesFolder = u"/TesselDelivery/Deliveries"_s;
 const QString temporaryHeader = u"/TesselDelivery/Deliveries/TempFile.txt"_s;
 const QString counterFile = u"/NQDeliveryNo.txt"_s;
 
+constexpr QStringView lineEnd = u"\r\n";
+
 QString DateLineOf(const QString& fileName) {
     return u"reading the delivery date in TesselDelivery/Deliveries/"_s + fileName;
 }
@@ -31,15 +33,29 @@ qint32 CounterValue(const QString& text) {
 
 } // namespace
 
-const QString& SlipTable::Text(SlipLine line, int entry) const {
+QString SlipTable::Text(SlipLine line, int entry) const {
+    return View(line, entry).toString();
+}
+
+QStringView SlipTable::View(SlipLine line, int entry) const {
     if (entry < 1 || size_t(entry) > entries.size())
         throw RuntimeFailure(FailureKind::Subscript,
                              u"The slip table has no entry %1."_s.arg(entry));
-    return entries[size_t(entry) - 1][size_t(line) - 1];
+    const auto& [text, places] = entries[size_t(entry) - 1];
+    const auto [start, length] = places[size_t(line) - 1];
+    return QStringView(text).sliced(start, length);
 }
 
-void SlipTable::Set(SlipLine line, int entry, QString text) {
-    entries.at(size_t(entry) - 1)[size_t(line) - 1] = std::move(text);
+void SlipTable::Set(int entry, const QString& lines) {
+    auto& [text, places] = entries.at(size_t(entry) - 1);
+    text = lines;
+    qsizetype start = 0;
+    for (Place& place : places) {
+        const qsizetype found = text.indexOf(lineEnd, start);
+        const qsizetype end = found < 0 ? text.size() : found;
+        place = {qint32(start), qint32(end - start)};
+        start = end + lineEnd.size();
+    }
 }
 
 void SlipTable::Grow(int count) {
@@ -54,7 +70,7 @@ DeliverySlipRoutines::DeliverySlipRoutines(BasicDiskRoutines& diskRoutines,
     : disk(diskRoutines), calendar(deliveryCalendar), settings(liveSettings), clock(machineClock),
       user(person) {}
 
-QString DeliverySlipRoutines::HeaderFile(const QString& slipNo) {
+QString DeliverySlipRoutines::HeaderFile(QStringView slipNo) {
     return deliveriesFolder % u'/' % slipNo % ".txt"_L1;
 }
 
@@ -104,9 +120,7 @@ void DeliverySlipRoutines::ReadHeaders(const std::vector<QString>& names) {
     Table.Grow(SlipCount);
     for (int entry = 1; entry <= SlipCount; ++entry) {
         disk.OpenForInput(deliveriesFolder % u'/' % names[size_t(entry) - 1]);
-        TextReader reader(disk);
-        for (int line = 1; line <= slipTableLines; ++line)
-            Table.Set(SlipLine(line), entry, reader.WholeLine());
+        Table.Set(entry, TextReader(disk).WholeLines(slipTableLines));
         disk.CloseAllFiles();
     }
 }
@@ -114,11 +128,11 @@ void DeliverySlipRoutines::ReadHeaders(const std::vector<QString>& names) {
 void DeliverySlipRoutines::ProcessPastSlips(const std::vector<QString>& names) {
     const QDate today = clock.Today();
     for (int entry = 1; entry <= SlipCount; ++entry) {
-        const QString date = Table.Text(SlipLine::Date, entry);
-        if (ToDate(date, [&] { return DateLineOf(names[size_t(entry) - 1]); }) < today)
-            ProcessPastSlip(Table.Text(SlipLine::SlipNumber, entry), date,
-                            Table.Text(SlipLine::Recurring, entry),
-                            Table.Text(SlipLine::Frequency, entry));
+        const auto where = [&] { return DateLineOf(names[size_t(entry) - 1]); };
+        if (ToDate(Table.View(SlipLine::Date, entry), where) < today)
+            ProcessPastSlip(
+                Table.Text(SlipLine::SlipNumber, entry), Table.Text(SlipLine::Date, entry),
+                Table.Text(SlipLine::Recurring, entry), Table.Text(SlipLine::Frequency, entry));
     }
 }
 

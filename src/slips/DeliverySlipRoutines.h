@@ -36,13 +36,26 @@ constexpr int slipItemColumns = 4;
 /// by LoadSlips, stale until the next one.
 class SlipTable {
 public:
-    const QString& Text(SlipLine line, int entry) const;
-    void Set(SlipLine line, int entry, QString text);
+    QString Text(SlipLine line, int entry) const;
+    /// For looking at every slip there is; good until the table is rebuilt.
+    QStringView View(SlipLine line, int entry) const;
+    /// The ten lines as they stand in the slip's file.
+    void Set(int entry, const QString& lines);
     /// Makes room for entries 1 to `count`; what is there stays.
     void Grow(int count);
 
 private:
-    std::vector<std::array<QString, slipTableLines>> entries;
+    struct Place {
+        qint32 start = 0;
+        qint32 length = 0;
+    };
+    /// A slip's lines as one text, and where each of them stands in it. They lie close together
+    /// because the board goes through all slips each time it is filled.
+    struct Entry {
+        QString text;
+        std::array<Place, slipTableLines> places;
+    };
+    std::vector<Entry> entries;
 };
 
 /// What a slip's header file holds: the ten table lines and the two addresses (name, street,
@@ -100,7 +113,7 @@ public:
     void ProcessPastSlip(const QString& slipNo, const QString& date, const QString& recurringText,
                          const QString& frequency);
 
-    static QString HeaderFile(const QString& slipNo);
+    static QString HeaderFile(QStringView slipNo);
     static QString ItemFile(const QString& slipNo);
 
 private:

@@ -16,6 +16,7 @@
 #include <limits>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -125,7 +126,9 @@ QByteArray ReadText(int descriptor, const QString& name) {
 }
 
 bool LeavesFolder(const QByteArray& path) {
-    return path.contains("..") && path.split('/').contains("..");
+    const bool isSuspect =
+        std::string_view(path.data(), size_t(path.size())).find("..") != std::string_view::npos;
+    return isSuspect && path.split('/').contains("..");
 }
 
 /// Not every file system tells the type of an entry in the listing.
@@ -178,7 +181,8 @@ BasicDiskRoutines::~BasicDiskRoutines() {
 }
 
 QByteArray BasicDiskRoutines::PathOf(const QString& name) const {
-    const QByteArray path = Relative(QFile::encodeName(name));
+    // Names on disk are UTF-8.
+    const QByteArray path = Relative(name.toUtf8());
     if (path.contains('\0') || LeavesFolder(path))
         throw RuntimeFailure(FailureKind::BadFileName,
                              u"The name \"%1\" would lead out of the data folder."_s.arg(name));
@@ -434,7 +438,7 @@ std::vector<QString> BasicDiskRoutines::ListFiles(const QString& folderName,
     std::vector<QString> files;
     files.reserve(names.size());
     std::transform(names.begin(), names.end(), std::back_inserter(files),
-                   [](const QByteArray& name) { return QFile::decodeName(name); });
+                   [](const QByteArray& name) { return QString::fromUtf8(name); });
     return files;
 }
 

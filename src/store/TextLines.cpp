@@ -72,7 +72,7 @@ bool TextReader::AtEnd() const {
     return input.position >= input.content.size();
 }
 
-QString TextReader::WholeLine() {
+QByteArrayView TextReader::NextLine() {
     auto& input = routines.InputOn(number);
     if (AtEnd())
         throw PastEnd(input);
@@ -84,12 +84,23 @@ QString TextReader::WholeLine() {
     const QByteArrayView line =
         QByteArrayView(input.content).sliced(input.position, end - input.position);
     input.position = std::min(end + lineEnd.size(), input.content.size());
-    return FromCodePage(line);
+    return line;
+}
+
+QString TextReader::WholeLine() {
+    return FromCodePage(NextLine());
+}
+
+QString TextReader::WholeLines(int count) {
+    const auto& input = routines.InputOn(number);
+    const qsizetype start = input.position;
+    SkipLines(count);
+    return FromCodePage(QByteArrayView(input.content).sliced(start, input.position - start));
 }
 
 void TextReader::SkipLines(int count) {
     for (int i = 0; i < count; ++i)
-        WholeLine();
+        NextLine();
 }
 
 QByteArray TextReader::NextField() {
@@ -113,9 +124,11 @@ QString TextReader::Quoted(const QByteArray& field) const {
 
 double TextReader::Number(const QByteArray& field) const {
     bool isNumber = false;
-    const double value = field.trimmed().toDouble(&isNumber);
-    const bool isTooLarge = !isNumber && std::isinf(value);
-    if ((!isNumber && !isTooLarge) || std::isnan(value))
+    double value = field.trimmed().toDouble(&isNumber);
+    // Bytes that are a number too large for a double are 0 to the toolkit, and text is infinity.
+    if (!isNumber)
+        value = QString::fromLatin1(field.trimmed()).toDouble();
+    if ((!isNumber && !std::isinf(value)) || std::isnan(value))
         throw RuntimeFailure(FailureKind::TypeMismatch, Quoted(field) + u"a number."_s);
     return value;
 }

@@ -19,6 +19,8 @@ public:
 
     /// Everything up to CR LF, as it stands.
     QString WholeLine();
+    /// So many lines as one text, with the CR LF of each.
+    QString WholeLines(int count);
     void SkipLines(int count);
 
     /// The next field: blanks are skipped; a leading double quote opens a text that runs to the
@@ -38,6 +40,7 @@ public:
     QDateTime Date();
 
 private:
+    QByteArrayView NextLine();
     QByteArray NextField();
     QString Quoted(const QByteArray& field) const;
     double Number(const QByteArray& field) const;

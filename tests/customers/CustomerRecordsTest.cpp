@@ -67,8 +67,24 @@ QByteArray CycleBytes() {
             69};
 }
 
+/// Bytes that no program would write, each place another.
+QByteArray OddBytes(int size) {
+    QByteArray bytes;
+    for (int i = 0; i < size; ++i)
+        bytes += char(i * 37 + 129);
+    return bytes;
+}
+
 class CustomerRecordsTest : public testing::Test {
 protected:
+    /// What record 1 of a file is once a program has read it, and has written it to place 2.
+    template <typename Record>
+    QByteArray Rewritten(const QString& name) {
+        WriteRecord(disk, disk.DiskFile2, 2, ReadRecord<Record>(disk, disk.DiskFile2, 1));
+        disk.CloseAllFiles();
+        return folder.Read(name).mid(qsizetype(sizeof(Record)));
+    }
+
     TestFolder folder;
     BasicDiskRoutines disk{folder.Path()};
 };
@@ -139,7 +155,9 @@ TEST_F(CustomerRecordsTest, ReservedBytesAreCarriedThroughARewrite) {
 
 TEST_F(CustomerRecordsTest, NameOf46CharactersIsStoredAsItsFirst45) {
     CustomerRecord customer{};
-    customer.BusinessName = u"The Very Long Name Of A Corner Grocery And Deli"_s;
+    const QString name = u"The Very Long Name Of A Corner Grocery And Del"_s;
+    ASSERT_EQ(name.size(), 46);
+    customer.BusinessName = name;
     EXPECT_EQ(customer.BusinessName.Whole(), u"The Very Long Name Of A Corner Grocery And De"_s);
 }
 
@@ -218,4 +236,22 @@ TEST_F(CustomerRecordsTest, RecordOfAnEmptyFileReadsAsAllZeroBytes) {
     const auto cycle = ReadRecord<CycleRecord>(disk, disk.DiskFile2, 1);
     EXPECT_EQ(QByteArray(reinterpret_cast<const char*>(&cycle), sizeof(cycle)),
               QByteArray(69, '\0'));
+}
+
+TEST_F(CustomerRecordsTest, ContractOfOddBytesIsWrittenBackUnchanged) {
+    QByteArray bytes = OddBytes(386);
+    // Day 46097.75: 18 o'clock on 16 March 2026.
+    bytes.replace(107, 8, QByteArray("\0\0\0\0\x38\x82\xe6\x40", 8));
+    folder.Write(u"ContractInfo.txt"_s, bytes);
+    OpenContractInfo(disk);
+    EXPECT_EQ(ReadRecord<ContractRecord>(disk, disk.DiskFile2, 1).At107.Value(),
+              QDate(2026, 3, 16));
+    EXPECT_EQ(Rewritten<ContractRecord>(u"ContractInfo.txt"_s), bytes);
+}
+
+TEST_F(CustomerRecordsTest, CycleOfOddBytesIsWrittenBackUnchanged) {
+    const QByteArray bytes = OddBytes(69);
+    folder.Write(u"CycleInfo.txt"_s, bytes);
+    OpenCycleInfo(disk);
+    EXPECT_EQ(Rewritten<CycleRecord>(u"CycleInfo.txt"_s), bytes);
 }

@@ -26,7 +26,7 @@ playLocale=en_US.UTF-8
 # A name that a careless road from the folder to a file would trip over.
 businessName='Büro Süd 1'
 business=''
-otherProcesses=()
+playProcesses=()
 
 # A clock that runs on from the morning of the set day, as words for env. The loader puts the
 # machine's folder of libraries in the place of $LIB. The preloaded clock comes before the
@@ -36,7 +36,6 @@ playClock=(
     'LD_PRELOAD=/usr/$LIB/faketime/libfaketime.so.1'
     "FAKETIME=@$playDate 08:00:00"
     FAKETIME_DONT_FAKE_MONOTONIC=1
-    FAKETIME_DISABLE_SHM=1
     "ASAN_OPTIONS=${ASAN_OPTIONS:+$ASAN_OPTIONS:}verify_asan_link_order=0"
 )
 
@@ -44,6 +43,14 @@ BeginPlay() {
     BeginDay "$(mktemp -d -t tessel-play-XXXXXX)"
     trap EndPlay EXIT
     business="$dayFolder/$businessName"
+}
+
+# The preloaded clock leaves its shared memory behind when a program ends without ceremony.
+RemoveClocks() {
+    local process
+    for process in "${playProcesses[@]}"; do
+        rm -f "/dev/shm/faketime_shm_$process" "/dev/shm/sem.faketime_sem_$process"
+    done
 }
 
 # For what a test has set up besides; runs when the program has been ended.
@@ -55,9 +62,12 @@ EndPlay() {
         [[ -e $dayFolder/failed.png ]] || import -window root "$dayFolder/failed.png" || true
         printf 'Picture and messages are in %s\n' "$dayFolder" >&2
     fi
-    [[ ${#otherProcesses[@]} -eq 0 ]] || kill "${otherProcesses[@]}" 2>/dev/null || true
+    local running
+    mapfile -t running <<<"$(jobs -pr)"
+    [[ -z ${running[0]} ]] || kill "${running[@]}" 2>/dev/null || true
     StopDay || true
     CleanUp || true
+    RemoveClocks
     if [[ $status -eq 0 ]]; then
         chmod -R u+rwX "$dayFolder"
         rm -rf "$dayFolder"
@@ -74,6 +84,7 @@ StartPlay() {
     local folder=$1
     shift
     StartProgram "$program" "$folder" LC_ALL="$playLocale" "${playClock[@]}" "$@"
+    playProcesses+=("$programProcess")
 }
 
 # WindowOf PROCESS TITLE: that process's window of that title, or nothing.

@@ -10,6 +10,12 @@ LayOutQuietBusiness() {
     RemovePastSlips "$1"
 }
 
+# Without ceremony: Die PROCESS
+Die() {
+    kill -KILL "$1"
+    wait "$1" 2>/dev/null || true
+}
+
 BeginPlay
 LayOutQuietBusiness "$business"
 Snapshot "$business" >"$dayFolder/before.txt"
@@ -18,7 +24,6 @@ Step "The first copy starts."
 StartPlay "$business"
 WaitForTitle
 first=$programProcess
-otherProcesses+=("$first")
 firstTitle=$titleWindow
 
 Step "A second copy is refused."
@@ -35,19 +40,17 @@ Continue
 Step "A copy on another folder starts."
 LayOutQuietBusiness "$dayFolder/other"
 StartPlay "$dayFolder/other"
-otherProcesses+=("$programProcess")
 WaitForTitle
 Continue
 
 Step "A copy starts after the first has died."
-kill -KILL "$first"
-wait "$first" 2>/dev/null || true
+Die "$first"
 StartPlay "$business"
 WaitForTitle
 Continue
 
 Step "No copy has left anything in the folder."
-kill -KILL "$programProcess"
-wait "$programProcess" 2>/dev/null || true
+Die "$programProcess"
+programProcess=''
 Snapshot "$business" >"$dayFolder/after.txt"
 ExpectSame "the data folder" "$dayFolder/before.txt" "$dayFolder/after.txt"

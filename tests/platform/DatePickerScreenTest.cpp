@@ -1,5 +1,4 @@
 #include "platform/DatePicker.h"
-
 #include "platform/RegionalFormats.h"
 #include "support/TextOutput.h"
 
@@ -70,8 +69,7 @@ TEST_F(DatePickerTest, UpAndDownStepByADay) {
     QTest::keyClick(&picker, Qt::Key_Up);
     QTest::keyClick(&picker, Qt::Key_Down);
     QTest::keyClick(&picker, Qt::Key_Down);
-    EXPECT_EQ(told,
-              (QList<QDate>{{2026, 11, 21}, {2026, 11, 20}, {2026, 11, 19}}));
+    EXPECT_EQ(told, (QList<QDate>{{2026, 11, 21}, {2026, 11, 20}, {2026, 11, 19}}));
 }
 
 TEST_F(DatePickerTest, DayPickedFromTheCalendarIsTold) {

@@ -57,13 +57,13 @@ TEST(RuntimeFailureTest, SystemErrorsAreOfTheKindAnOperatorUnderstands) {
         FailureKind kind;
     };
     const std::vector<Case> cases = {
-        {ENOENT, FailureKind::FileNotFound},      {ENOTDIR, FailureKind::PathNotFound},
-        {EACCES, FailureKind::PermissionDenied},  {EPERM, FailureKind::PermissionDenied},
-        {EROFS, FailureKind::PermissionDenied},   {EISDIR, FailureKind::PermissionDenied},
-        {ENOSPC, FailureKind::DiskFull},          {EDQUOT, FailureKind::DiskFull},
-        {EFBIG, FailureKind::DiskFull},           {ENAMETOOLONG, FailureKind::BadFileName},
-        {EINVAL, FailureKind::BadFileName},       {EEXIST, FailureKind::FileAlreadyExists},
-        {EIO, FailureKind::DeviceFailure},        {EMFILE, FailureKind::DeviceFailure}};
+        {ENOENT, FailureKind::FileNotFound},     {ENOTDIR, FailureKind::PathNotFound},
+        {EACCES, FailureKind::PermissionDenied}, {EPERM, FailureKind::PermissionDenied},
+        {EROFS, FailureKind::PermissionDenied},  {EISDIR, FailureKind::PermissionDenied},
+        {ENOSPC, FailureKind::DiskFull},         {EDQUOT, FailureKind::DiskFull},
+        {EFBIG, FailureKind::DiskFull},          {ENAMETOOLONG, FailureKind::BadFileName},
+        {EINVAL, FailureKind::BadFileName},      {EEXIST, FailureKind::FileAlreadyExists},
+        {EIO, FailureKind::DeviceFailure},       {EMFILE, FailureKind::DeviceFailure}};
     for (const Case& one : cases)
         EXPECT_EQ(FailureFromErrno(one.error, u"Opening A.txt"_s).Kind(), one.kind) << one.error;
 }

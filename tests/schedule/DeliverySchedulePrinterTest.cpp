@@ -120,6 +120,54 @@ TEST_F(DeliverySchedulePrinterTest, RulesAreInTheColourLastChosen) {
                                          u"1: 1440,5520 - 11520,5520 0000ff"_s}));
 }
 
+TEST_F(DeliverySchedulePrinterTest, RulesAreInTheBorderColourAsLoadedEvenWithoutColourPrinting) {
+    folder.Write(u"PrintColors.txt"_s, "65280\r\n255\r\n\"Arial\"\r\n#FALSE#\r\n3\r\n");
+    office.settingsStore.LoadPrintColors();
+    EXPECT_EQ(office.settings.ckColor, 0);
+    StoreSlip({.number = u"20260014"_s});
+    OpenBoard();
+    PrintAll();
+    EXPECT_EQ(DrawnLines(), (QStringList{u"1: 1440,2640 - 11520,2640 00ff00"_s,
+                                         u"1: 1440,5520 - 11520,5520 00ff00"_s}));
+}
+
+TEST_F(DeliverySchedulePrinterTest, BusinessWithoutDataLeavesTheMarksBetweenItsParts) {
+    office.settings.BusinessData.fill({});
+    StoreSlip({.number = u"20260014"_s});
+    OpenBoard();
+    PrintAll();
+    EXPECT_EQ(TextsWith(u": 1440,1"_s),
+              (QStringList{u"1: 1440,1440 10    "_s, u"1: 1440,1680 10 , . "_s,
+                           u"1: 1440,1920 10 Tel No "_s}));
+}
+
+TEST_F(DeliverySchedulePrinterTest, AddressStyleChangesNothing) {
+    office.settings.cmdAddress = u"International Style Address"_s;
+    StoreSlip({.number = u"20260014"_s});
+    OpenBoard();
+    PrintAll();
+    EXPECT_EQ(DrawnTexts(), head + firstEntry);
+}
+
+TEST_F(DeliverySchedulePrinterTest, JobIsNamedByDateAndVehicle) {
+    StoreSlip({.number = u"20260014"_s});
+    OpenBoard();
+    PrintAll();
+    EXPECT_EQ(printer.JobName, u"Delivery schedule 2026-03-16 Flatbed Truck"_s);
+}
+
+TEST_F(DeliverySchedulePrinterTest, TwoSlipsOfOneCustomerPrintEachItsOwnCharge) {
+    StoreSlip({.number = u"1"_s, .time = u"07:00am"_s});
+    StoreSlip({.number = u"2"_s, .time = u"01:00pm"_s});
+    OpenBoard();
+    board.fgSchedule.SetText(1, int(ScheduleColumn::DeliveryCharge), u"$7.00"_s);
+    board.fgSchedule.SetText(2, int(ScheduleColumn::DeliveryCharge), u"$1.50"_s);
+    board.ToggleMark(1);
+    office.schedulePrinter.Print(true);
+    EXPECT_EQ(TextsWith(u": 9220,"_s),
+              (QStringList{u"1: 9220,3360 10b $7.00"_s, u"1: 9220,6240 10b $1.50"_s}));
+}
+
 TEST_F(DeliverySchedulePrinterTest, PrinterIsPreparedUprightInTheColourModeOfTheSettings) {
     StoreSlip({.number = u"20260014"_s});
     OpenBoard();

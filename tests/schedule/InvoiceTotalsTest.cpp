@@ -127,6 +127,29 @@ TEST_F(InvoiceTotalsTest, WorkedExampleAtOrBelowTheLimitKeepsUnroundedPlainNumbe
     EXPECT_EQ(captions.lblGrandtotal, u"$20.79"_s);
 }
 
+TEST_F(InvoiceTotalsTest, SubTotalOfZeroBelowTheLimitGivesPlainZeros) {
+    settings.ckApplyGraduated = 1;
+    Calculate(0);
+    EXPECT_EQ(captions.lblTax1, u"0"_s);
+    EXPECT_EQ(captions.lblTax2, u"0"_s);
+    EXPECT_EQ(captions.lblGrandtotal, u"$0.00"_s);
+}
+
+TEST_F(InvoiceTotalsTest, TinyTaxIsShownWithAnExponentAndReadBack) {
+    settings.ckApplyGraduated = 1;
+    settings.cboRate1 = u"0.5"_s;
+    settings.cboRate2 = u"0.7"_s;
+    Calculate(100);
+    EXPECT_EQ(captions.lblTax1, u"5E-05"_s);
+    EXPECT_EQ(captions.lblTax2, u"7E-05"_s);
+    EXPECT_EQ(captions.lblGrandtotal, u"$0.01"_s);
+    captions.lblTotal = u"0.0049"_s;
+    captions.lblCharge = u"0"_s;
+    UpdateGrandTotal(captions);
+    // 0.0049 + 0.0000 + 0.0001: half a cent, with the second tax rounded up.
+    EXPECT_EQ(captions.lblGrandtotal, u"$0.01"_s);
+}
+
 TEST_F(InvoiceTotalsTest, WorkedExampleAboveTheLimit) {
     settings.ckApplyGraduated = 1;
     Calculate(2'000'000);
@@ -211,6 +234,15 @@ TEST_F(InvoiceTotalsTest, RateWithoutALeadingNumberIsZero) {
     Calculate(1'000'000);
     EXPECT_EQ(captions.lblTax1, u"$0.00"_s);
     EXPECT_EQ(captions.lblTax2, u"$0.00"_s);
+}
+
+TEST_F(InvoiceTotalsTest, RateWithASignIsZero) {
+    settings.cboRate1 = u"-5"_s;
+    settings.cboRate2 = u"+5"_s;
+    Calculate(1'000'000);
+    EXPECT_EQ(captions.lblTax1, u"$0.00"_s);
+    EXPECT_EQ(captions.lblTax2, u"$0.00"_s);
+    EXPECT_EQ(captions.lblGrandtotal, u"$100.00"_s);
 }
 
 TEST_F(InvoiceTotalsTest, TaxIsRoundedHalfAwayFromZeroByItsFormatting) {

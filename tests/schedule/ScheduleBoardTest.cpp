@@ -39,6 +39,11 @@ protected:
         settings.cboTaxHeading2 = u"County Tax"_s;
     }
 
+    void ExpectHolidayMessage(const QString& date) {
+        user.ExpectMessage(date +
+                           u" is  a Scheduled Holiday\nA day will be added, then re-checked"_s);
+    }
+
     void SetCurrent(int row, ScheduleColumn column) {
         board.fgSchedule.SetCurrent(row, int(column));
     }
@@ -98,6 +103,15 @@ TEST_F(ScheduleBoardTest, MarkIsABlankAndTheCharacterWithCode171) {
     EXPECT_EQ(SelectionMark(), QString(u' ') + QChar(171));
 }
 
+TEST_F(ScheduleBoardTest, FourWordsTellOfAnAbsence) {
+    for (const QString& text : {u"Vacation"_s, u"Holiday"_s, u"Personal Day"_s, u"Sick Day"_s,
+                                u"Joe: Vacation until Friday"_s})
+        EXPECT_TRUE(IsAbsence(text)) << text.toStdString();
+    for (const QString& text : {QString(), u"Corner Grocery"_s, u"vacation"_s, u"HOLIDAY"_s,
+                                u"Personal day"_s, u"Sick"_s, u"SickDay"_s, u"Day"_s})
+        EXPECT_FALSE(IsAbsence(text)) << text.toStdString();
+}
+
 // Initform
 
 TEST_F(ScheduleBoardTest, NothingIsWrittenBeforeTheScreenIsBroughtUp) {
@@ -117,6 +131,22 @@ TEST_F(ScheduleBoardTest, InitformEmptiesTheWorkScheduleAndGoesToTheNextWorkDayA
     EXPECT_EQ(board.DTPicker1, QDate(2026, 3, 16));
     EXPECT_EQ(board.lstVehicles, u"Tanker"_s);
     EXPECT_EQ(Column(ScheduleColumn::Customer), QStringList{u"Hill School"_s});
+}
+
+TEST_F(ScheduleBoardTest, InitformOnAHolidayTellsOnceAndGoesToTheNextDay) {
+    clock.Date = {2026, 3, 17};
+    folder.Write(u"Holidays.txt"_s, "#2026-03-17#\r\n");
+    ExpectHolidayMessage(u"3/17/2026"_s);
+    board.Initform({});
+    EXPECT_EQ(board.DTPicker1, QDate(2026, 3, 18));
+}
+
+TEST_F(ScheduleBoardTest, InitformOnASaturdayBeforeAHolidayTellsOfItAsTheDateChanges) {
+    clock.Date = {2026, 3, 14};
+    folder.Write(u"Holidays.txt"_s, "#2026-03-16#\r\n");
+    ExpectHolidayMessage(u"3/16/2026"_s);
+    board.Initform({});
+    EXPECT_EQ(board.DTPicker1, QDate(2026, 3, 17));
 }
 
 TEST_F(ScheduleBoardTest, InitformStoppedByABrokenHolidayListWritesNoInvoiceNumber) {

@@ -5,6 +5,7 @@
 #include "support/ScreenTest.h"
 
 #include <QCheckBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -24,6 +25,19 @@ constexpr int customerColumn = 1;
 constexpr int slipColumn = 3;
 constexpr int timeColumn = 4;
 constexpr int chargeColumn = 5;
+constexpr int sortColumn = 8;
+
+/// A delivery by Van 2 on the day on which the tests start.
+SampleSlip VanSlip(const QString& number, const QString& time = u"08:00am"_s,
+                   const QString& customer = u"Corner Grocery"_s) {
+    SampleSlip slip{.number = number,
+                    .customer = customer,
+                    .time = time,
+                    .date = u"3/9/2026"_s,
+                    .vehicle = u"Van 2"_s};
+    slip.soldTo[0] = customer;
+    return slip;
+}
 
 } // namespace
 
@@ -31,13 +45,14 @@ class PrintSchedulesScreen : public ScreenTest {
 protected:
     void WriteBusiness() {
         WriteVehicles(office, {u"Van 2"_s, u"Tanker"_s});
-        WriteSlip(office, {.number = u"501"_s, .time = u"01:00pm"_s, .customer = u"Baker"_s});
-        WriteSlip(office, {.number = u"502"_s, .time = u"07.15am"_s});
-        WriteSlip(office, {.number = u"503"_s,
-                           .date = u"3/10/2026"_s,
-                           .time = u"08:30am"_s,
-                           .customer = u"Hill School"_s});
-        WriteSlip(office, {.number = u"504"_s, .vehicle = u"Tanker"_s, .customer = u"Farm"_s});
+        WriteSlip(folder, VanSlip(u"501"_s, u"01:00pm"_s, u"Baker"_s));
+        WriteSlip(folder, VanSlip(u"502"_s, u"07.15am"_s));
+        SampleSlip tomorrow = VanSlip(u"503"_s, u"08:30am"_s, u"Hill School"_s);
+        tomorrow.date = u"3/10/2026"_s;
+        WriteSlip(folder, tomorrow);
+        SampleSlip ofTanker = VanSlip(u"504"_s, u"08:00am"_s, u"Farm"_s);
+        ofTanker.vehicle = u"Tanker"_s;
+        WriteSlip(folder, ofTanker);
     }
 
     void Open() {
@@ -52,6 +67,28 @@ protected:
     QString Caption(const QString& name) { return Find<QLabel>(board, name)->text(); }
     QLineEdit* Charge() { return Find<QLineEdit>(board, u"txtDeliveryCharge"_s); }
     DatePicker* Date() { return Find<DatePicker>(board, u"DTPicker1"_s); }
+    QRadioButton* TaxOption(int index) {
+        return Find<QRadioButton>(board, u"optTax(%1)"_s.arg(index));
+    }
+
+    void TypeDate(const QString& text) {
+        Date()->setFocus();
+        Date()->selectAll();
+        Type(Date(), text);
+        Press(Date(), Qt::Key_Return);
+    }
+    void ClickVehicle(int row) {
+        auto* vehicles = Find<QListView>(board, u"lstVehicles"_s);
+        const QRect place = vehicles->visualRect(vehicles->model()->index(row, 0));
+        QTest::mouseClick(vehicles->viewport(), Qt::LeftButton, Qt::NoModifier, place.center());
+    }
+    void ClickHeading(int column) {
+        QHeaderView* heading = grid->horizontalHeader();
+        QTest::mouseClick(
+            heading->viewport(), Qt::LeftButton, Qt::NoModifier,
+            {heading->sectionViewportPosition(column) + heading->sectionSize(column) / 2,
+             heading->height() / 2});
+    }
 
     Grid* grid = nullptr;
 };
@@ -66,6 +103,53 @@ TEST_F(PrintSchedulesScreen, FirstShowingPicksTheFirstVehicleAndToday) {
     EXPECT_EQ(Cell(1, customerColumn), u"Corner Grocery"_s);
     EXPECT_EQ(Cell(2, customerColumn), u"Baker"_s);
     EXPECT_FALSE(Button(12)->isEnabled());
+    EXPECT_EQ(Caption(u"lblTax1"_s), u"$0.00"_s);
+    EXPECT_EQ(Caption(u"lblTax2"_s), u"$0.00"_s);
+    EXPECT_EQ(Caption(u"lblInvoice"_s), u"20260001"_s);
+    EXPECT_FALSE(Find<QWidget>(board, u"fraSlip"_s)->isVisible());
+    EXPECT_TRUE(grid->isColumnHidden(sortColumn));
+    EXPECT_FALSE(grid->isColumnHidden(sortColumn - 1));
+}
+
+TEST_F(PrintSchedulesScreen, ControlsCarryTheirTexts) {
+    WriteBusiness();
+    Open();
+    EXPECT_EQ(screens.Find(board)->windowTitle(), u"Print Delivery Schedules and Invoices"_s);
+    const std::pair<int, QString> captions[] = {{0, u"Return to &Menu"_s},
+                                                {1, u"Enter to Grid"_s},
+                                                {2, u"Clear->"_s},
+                                                {3, u"&Print"_s},
+                                                {5, u"Close Window without Updating Slip"_s},
+                                                {6, u"&Select All"_s},
+                                                {7, u"Deselect &All"_s},
+                                                {12, u"Toggle Delivery Slip"_s}};
+    for (const auto& [index, caption] : captions)
+        EXPECT_EQ(Button(index)->text(), caption);
+    EXPECT_EQ(TaxOption(0)->text(), u"Calculate Primary Tax ONLY"_s);
+    EXPECT_EQ(TaxOption(1)->text(), u"Calculate Secondary Tax ONLY"_s);
+    EXPECT_EQ(TaxOption(2)->text(), u"Calculate Both Taxes"_s);
+    auto* populated = Find<QCheckBox>(board, u"ckPopulated"_s);
+    auto* workSchedule = Find<QCheckBox>(board, u"ckPrintWorkSchedule"_s);
+    EXPECT_EQ(populated->text(), u"Populate Invoices"_s);
+    EXPECT_EQ(workSchedule->text(), u"Print Delivery Schedule"_s);
+    EXPECT_EQ(Find<QCheckBox>(board, u"ckMInvoices"_s)->text(), u"Print Invoices"_s);
+    EXPECT_EQ(populated->toolTip(), u"Unchecked- Prints Blank Invoices"_s);
+    EXPECT_EQ(workSchedule->toolTip(), u"If checked, Delivery List will Print"_s);
+    EXPECT_EQ(Find<QListView>(board, u"lstVehicles"_s)->toolTip(), u"Select an Assignment"_s);
+    EXPECT_EQ(Button(1)->toolTip(), u"Enter Delivery Charge to the Grid"_s);
+    EXPECT_EQ(TextsIn(screens.Find(board)).count(u"Scheduled Deliveries"_s), 1);
+    EXPECT_TRUE(
+        TextsIn(Find<QWidget>(board, u"fraInvoiceNo"_s)).contains(u"Invoice No (if Printed)"_s));
+    const QStringList panel = TextsIn(Find<QWidget>(board, u"fraSlip"_s));
+    for (const QString& heading : {u"Name"_s, u"Street"_s, u"Apt"_s, u"City"_s, u"St"_s, u"Zip"_s})
+        EXPECT_EQ(panel.count(heading), 1) << heading.toStdString();
+}
+
+TEST_F(PrintSchedulesScreen, PictureIsThere) {
+    Open();
+    auto* imgLogo = Find<QLabel>(board, u"imgLogo"_s);
+    EXPECT_TRUE(imgLogo->isVisible());
+    EXPECT_FALSE(imgLogo->pixmap(Qt::ReturnByValue).isNull());
 }
 
 TEST_F(PrintSchedulesScreen, ComingBackFindsTheBoardAsItWasLeft) {
@@ -99,12 +183,22 @@ TEST_F(PrintSchedulesScreen, SlipWhoseFileGoesWhileTheBoardIsUpIsAFailure) {
 TEST_F(PrintSchedulesScreen, ClickOnAVehicleLoadsItsDeliveries) {
     WriteBusiness();
     Open();
-    auto* vehicles = Find<QListView>(board, u"lstVehicles"_s);
-    const QRect second = vehicles->visualRect(vehicles->model()->index(1, 0));
-    QTest::mouseClick(vehicles->viewport(), Qt::LeftButton, Qt::NoModifier, second.center());
+    ClickVehicle(1);
     ASSERT_EQ(office.board.fgSchedule.Rows(), 2);
     EXPECT_EQ(Cell(1, customerColumn), u"Farm"_s);
     EXPECT_EQ(Caption(u"Label1(14)"_s), u"Tanker - 3/9/2026"_s);
+}
+
+TEST_F(PrintSchedulesScreen, ClickOnTheChosenVehicleLoadsItsDeliveriesAnew) {
+    WriteBusiness();
+    Open();
+    ClickVehicle(0);
+    ClickCell(grid, 1, selectColumn);
+    office.board.fgSchedule.SetText(2, chargeColumn, u"$5.00"_s);
+    ClickVehicle(0);
+    ASSERT_EQ(office.board.fgSchedule.Rows(), 3);
+    EXPECT_EQ(Cell(1, selectColumn), QString());
+    EXPECT_EQ(Cell(2, chargeColumn), u"$0.00"_s);
 }
 
 TEST_F(PrintSchedulesScreen, UpDownStepsTheDateByOneDay) {
@@ -113,6 +207,7 @@ TEST_F(PrintSchedulesScreen, UpDownStepsTheDateByOneDay) {
     Click(board, u"UpDown1(up)"_s);
     EXPECT_EQ(Date()->Date(), QDate(2026, 3, 10));
     EXPECT_EQ(Caption(u"lblWeekday"_s), u"Tuesday"_s);
+    EXPECT_EQ(Caption(u"Label1(14)"_s), u"Van 2 - 3/10/2026"_s);
     EXPECT_EQ(Cell(1, customerColumn), u"Hill School"_s);
     Click(board, u"UpDown1(down)"_s);
     EXPECT_EQ(Date()->Date(), QDate(2026, 3, 9));
@@ -130,26 +225,32 @@ TEST_F(PrintSchedulesScreen, DateTypedBeforeTodayWithPromptsOffIsCorrectedSilent
     Open();
     office.settings.PromptsOn = false;
     office.settings.AlarmOn = false;
-    Date()->setFocus();
-    Date()->selectAll();
-    Type(Date(), u"3/2/2026"_s);
-    Press(Date(), Qt::Key_Return);
+    TypeDate(u"3/2/2026"_s);
     EXPECT_EQ(Date()->Date(), QDate(2026, 3, 9));
     EXPECT_EQ(user.Beeps, 0);
 }
 
+TEST_F(PrintSchedulesScreen, TextThatIsNoDateIsTakenBackWithABeepUnlessAlarmsAreOff) {
+    Open();
+    TypeDate(u"soon"_s);
+    EXPECT_EQ(Date()->text(), u"3/9/2026"_s);
+    EXPECT_EQ(user.Beeps, 1);
+    office.settings.AlarmOn = false;
+    TypeDate(u"soon"_s);
+    EXPECT_EQ(Date()->text(), u"3/9/2026"_s);
+    EXPECT_EQ(user.Beeps, 1);
+}
+
 TEST_F(PrintSchedulesScreen, SaturdayMovesToMondayInSilence) {
     Open();
-    Date()->setFocus();
-    Date()->selectAll();
-    Type(Date(), u"3/14/2026"_s);
-    Press(Date(), Qt::Key_Return);
+    TypeDate(u"3/14/2026"_s);
     EXPECT_EQ(Date()->Date(), QDate(2026, 3, 16));
 }
 
 TEST_F(PrintSchedulesScreen, ClickInColumnZeroMarksTheRowAlone) {
     WriteBusiness();
     Open();
+    Button(1)->setEnabled(false);
     ClickCell(grid, 1, selectColumn);
     EXPECT_EQ(Cell(1, selectColumn), u" \u00ab"_s);
     EXPECT_TRUE(Button(12)->isEnabled());
@@ -184,7 +285,8 @@ TEST_F(PrintSchedulesScreen, ClickOnTheHeadingOnlyDisablesTheToggle) {
     WriteBusiness();
     Open();
     ClickCell(grid, 1, selectColumn);
-    Q_EMIT grid->Clicked(0, chargeColumn);
+    EXPECT_TRUE(Button(12)->isEnabled());
+    ClickHeading(chargeColumn);
     EXPECT_FALSE(Button(12)->isEnabled());
     EXPECT_NE(screens.Find(board)->focusWidget(), Charge());
 }
@@ -198,6 +300,14 @@ TEST_F(PrintSchedulesScreen, ClickInTheChargeColumnClearsTheBoxAndGoesThere) {
     ClickCell(grid, 1, chargeColumn);
     EXPECT_EQ(Charge()->text(), u"$0.00"_s);
     EXPECT_EQ(screens.Find(board)->focusWidget(), Charge());
+}
+
+TEST_F(PrintSchedulesScreen, ClickInTheChargeColumnOpensTheSlipToo) {
+    WriteBusiness();
+    Open();
+    ClickCell(grid, 2, chargeColumn);
+    EXPECT_EQ(Caption(u"lblCustomer(0)"_s), u"Baker"_s);
+    EXPECT_EQ(Caption(u"lblTotal"_s), u"$14.65"_s);
 }
 
 TEST_F(PrintSchedulesScreen, EmptyDayKeepsOneRowThatLoadsNothing) {
@@ -234,6 +344,37 @@ TEST_F(PrintSchedulesScreen, ChargeBoxRefusesLettersLeadingZeroAndSecondPointWit
     EXPECT_EQ(user.Beeps, 3);
 }
 
+TEST_F(PrintSchedulesScreen, KeyThatIsRefusedEmptiesAChargeBoxAtZeroAllTheSame) {
+    Open();
+    int beeps = 0;
+    for (const QString& key : {u"."_s, u"x"_s}) {
+        Click(board, u"cmdPrint(2)"_s);
+        EXPECT_EQ(Charge()->text(), u"$0.00"_s);
+        Type(Charge(), key);
+        EXPECT_EQ(Charge()->text(), QString()) << key.toStdString();
+        EXPECT_EQ(user.Beeps, ++beeps);
+    }
+}
+
+TEST_F(PrintSchedulesScreen, ZeroTypedIntoAChargeBoxAtZeroStays) {
+    Open();
+    Charge()->setFocus();
+    Type(Charge(), u"0"_s);
+    EXPECT_EQ(Charge()->text(), u"0"_s);
+    EXPECT_EQ(user.Beeps, 0);
+}
+
+TEST_F(PrintSchedulesScreen, EnterInTheChargeBoxEntersTheCharge) {
+    WriteBusiness();
+    Open();
+    ClickCell(grid, 2, customerColumn);
+    Charge()->setFocus();
+    Type(Charge(), u"5"_s);
+    Press(Charge(), Qt::Key_Return);
+    EXPECT_EQ(Cell(2, chargeColumn), u"$5.00"_s);
+    EXPECT_EQ(Charge()->text(), u"$5.00"_s);
+}
+
 TEST_F(PrintSchedulesScreen, ChargeGoesToTheCurrentRowAndTheSlipPanel) {
     WriteBusiness();
     Open();
@@ -263,6 +404,7 @@ TEST_F(PrintSchedulesScreen, SelectAllAndDeselectAllFillAndEmptyTheWorkSchedule)
               (QStringList{u"Corner Grocery"_s, u"Baker"_s}));
     ClickCell(grid, 1, customerColumn);
     const QString shown = Caption(u"lblCustomer(0)"_s);
+    Button(6)->setEnabled(false);
     Click(board, u"cmdPrint(7)"_s);
     EXPECT_EQ(Cell(1, selectColumn), QString());
     EXPECT_TRUE(office.board.lstWorkSchedule.stringList().isEmpty());
@@ -278,17 +420,43 @@ TEST_F(PrintSchedulesScreen, ToggleShowsTheRowsSlipUnderTheTablesNumber) {
     Click(board, u"cmdPrint(12)"_s);
     auto* panel = Find<Card>(board, u"fraSlip"_s);
     EXPECT_TRUE(panel->isVisible());
+    EXPECT_TRUE(grid->isEnabled());
     EXPECT_TRUE(Find<QWidget>(board, u"fraInvoiceNo"_s)->isVisible());
     EXPECT_EQ(panel->Heading()->text(), u"Delivery Slip 501"_s);
     EXPECT_EQ(Caption(u"lblTime"_s), u"07.15am"_s);
     EXPECT_EQ(Caption(u"lblAcctNo"_s), u"4471"_s);
-    EXPECT_EQ(Caption(u"txtShipto(1)"_s), u"2 Dock Rd"_s);
     EXPECT_EQ(Caption(u"lblTotal"_s), u"$14.65"_s);
     EXPECT_EQ(Caption(u"lblInvoice"_s), u"20260001"_s);
     EXPECT_FALSE(Find<QWidget>(board, u"fraTax"_s)->isVisible());
-    EXPECT_EQ(office.board.fgItems.Text(2, 1), u"Butter"_s);
+    EXPECT_EQ(office.board.fgItems.Text(2, 1), u"Sand"_s);
     Click(board, u"cmdPrint(12)"_s);
     EXPECT_FALSE(panel->isVisible());
+}
+
+TEST_F(PrintSchedulesScreen, EachLineOfTheTwoAddressesHasItsPlace) {
+    WriteBusiness();
+    Open();
+    ClickCell(grid, 1, customerColumn);
+    const QStringList soldTo = {
+        u"Corner Grocery"_s, u"12 Hill Street"_s, u"Apt 3"_s, u"Springfield"_s, u"IL"_s,
+        u"62701"_s};
+    const QStringList shipTo = {u"Grocery Depot"_s, u"9 Mill Lane"_s, u"Dock B"_s,
+                                u"Decatur"_s,       u"IN"_s,          u"46733"_s};
+    for (int i = 0; i < 6; ++i) {
+        EXPECT_EQ(Caption(u"lblCustomer(%1)"_s.arg(i)), soldTo[i]);
+        EXPECT_EQ(Caption(u"txtShipto(%1)"_s.arg(i)), shipTo[i]);
+    }
+}
+
+TEST_F(PrintSchedulesScreen, ToggleWithoutAnySlipShowsThePanelWithoutANumber) {
+    WriteVehicles(office, {u"Van 2"_s});
+    Open();
+    ClickCell(grid, 1, selectColumn);
+    Click(board, u"cmdPrint(12)"_s);
+    auto* panel = Find<Card>(board, u"fraSlip"_s);
+    EXPECT_TRUE(panel->isVisible());
+    EXPECT_EQ(panel->Heading()->text(), u"Delivery Slip "_s);
+    EXPECT_TRUE(Failures().empty());
 }
 
 TEST_F(PrintSchedulesScreen, CloseButtonHidesTheSlip) {
@@ -305,8 +473,8 @@ TEST_F(PrintSchedulesScreen, TaxesAreShownWhenOneIsApplied) {
     office.settings.ckApply1stTax = 1;
     office.settings.cboRate1 = u"6.25"_s;
     Open();
-    EXPECT_TRUE(Find<QRadioButton>(board, u"optTax(0)"_s)->isChecked());
-    EXPECT_FALSE(Find<QRadioButton>(board, u"optTax(1)"_s)->isEnabled());
+    EXPECT_TRUE(TaxOption(0)->isChecked());
+    EXPECT_FALSE(TaxOption(1)->isEnabled());
     ClickCell(grid, 1, selectColumn);
     Click(board, u"cmdPrint(12)"_s);
     EXPECT_TRUE(Find<QWidget>(board, u"fraTax"_s)->isVisible());
@@ -321,7 +489,9 @@ TEST_F(PrintSchedulesScreen, OtherTaxOptionCountsAtTheNextLoadOfTheSlip) {
     office.settings.cboRate1 = u"6.25"_s;
     office.settings.cboRate2 = u"1.5"_s;
     Open();
-    EXPECT_TRUE(Find<QRadioButton>(board, u"optTax(2)"_s)->isChecked());
+    EXPECT_TRUE(TaxOption(2)->isChecked());
+    for (int i = 0; i < 3; ++i)
+        EXPECT_TRUE(TaxOption(i)->isEnabled()) << i;
     ClickCell(grid, 1, customerColumn);
     EXPECT_EQ(Caption(u"lblTax2"_s), u"$0.22"_s);
     Click(board, u"optTax(0)"_s);
@@ -430,7 +600,7 @@ TEST_F(PrintSchedulesScreen, CloseBoxAsksForTheEndOfTheProgram) {
 TEST_F(PrintSchedulesScreen, WheelScrollsTheGrid) {
     WriteVehicles(office, {u"Van 2"_s});
     for (int i = 0; i < 60; ++i)
-        WriteSlip(office, {.number = QString::number(600 + i)});
+        WriteSlip(folder, VanSlip(QString::number(600 + i)));
     Open();
     QCoreApplication::processEvents();
     grid->scrollToTop();

@@ -757,8 +757,9 @@ TEST_F(SettingsStoreTest, BusinessDataIsTakenAsItStands) {
 }
 
 TEST_F(SettingsStoreTest, QuoteInABusinessTextIsWrittenAsItIsAndShiftsTheFieldsOnReading) {
-    live.BusinessData = {u"12\" Pipes"_s, u"1 Quarry Road"_s, u"2"_s, u"3"_s, u"4"_s,
-                         u"5"_s,          u"6"_s,             u"7"_s, u"8"_s};
+    live.BusinessData = {
+        u"12\" Pipes"_s, u"1 Quarry Road"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s,
+        u"8"_s};
     Save(businessData);
     EXPECT_EQ(folder.Read(businessData.name), "\"12\" Pipes\",\"1 Quarry Road\",\"2\",\"3\",\"4\","
                                               "\"5\",\"6\",\"7\",\"8\"\r\n");

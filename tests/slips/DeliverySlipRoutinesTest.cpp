@@ -713,10 +713,9 @@ TEST_F(DeliverySlipRoutinesTest, SlotIsFreeWhetherItIsTakenOrNot) {
 
 TEST_F(DeliverySlipRoutinesTest, SlotWalkStopsAtTheFirstMatch) {
     // The walk reads each date up to the match, so what lies behind it can't fail.
-    folder.Write(deliveries + u"1.txt"_s,
-                 SlipHeaderBytes("1", "3/12/2026")
-                     .replace("08:30am", " 08:30am ")
-                     .replace("Flatbed Truck", "  Flatbed Truck "));
+    folder.Write(deliveries + u"1.txt"_s, SlipHeaderBytes("1", "3/12/2026")
+                                              .replace("08:30am", " 08:30am ")
+                                              .replace("Flatbed Truck", "  Flatbed Truck "));
     PutSlip("2", "no date");
     slips.LoadSlips(false);
     EXPECT_TRUE(slips.IsSlotFree(QDate(2026, 3, 12), u"08:30am"_s, u"Flatbed Truck"_s));

@@ -176,13 +176,25 @@ TEST_F(VehicleFleetTest, PartRecordOfHalfOrMoreIsAPartlyFilledLastVehicle) {
     ASSERT_EQ(fleet.fgItems.Rows(), 3);
     // The bytes that are missing read as NUL characters, which are no blanks to trim.
     const auto nuls = [](int count) { return QString(count, QChar(u'\0')); };
-    EXPECT_EQ(Row(2), QStringList({u"Van"_s, u"7        "_s + nuls(21), nuls(20), u"False"_s,
-                                   nuls(25)}));
+    EXPECT_EQ(Row(2),
+              QStringList({u"Van"_s, u"7        "_s + nuls(21), nuls(20), u"False"_s, nuls(25)}));
 }
 
 TEST_F(VehicleFleetTest, EmptyFileIsAFleetWithoutVehicles) {
     folder.Write(vehiclesFile, "");
     fleet.Load();
+    EXPECT_EQ(fleet.fgItems.DataRows(), 0);
+    EXPECT_EQ(fleet.Names.stringList(), QStringList());
+}
+
+TEST_F(VehicleFleetTest, FileEmptiedSinceLeavesTheHeadingCurrent) {
+    folder.Write(vehiclesFile, VehicleBytes("A", "1", trueBytes, "lbs", "N/A") +
+                                   VehicleBytes("B", "2", trueBytes, "lbs", "N/A"));
+    fleet.Load();
+    fleet.fgItems.SetCurrent(2, 3);
+    folder.Write(vehiclesFile, "");
+    fleet.LoadVehicles();
+    EXPECT_EQ(fleet.fgItems.CurrentRow(), 0);
     EXPECT_EQ(fleet.fgItems.DataRows(), 0);
     EXPECT_EQ(fleet.Names.stringList(), QStringList());
 }

@@ -1,6 +1,5 @@
-#include "startup/StartUp.h"
-
 #include "platform/FolderLock.h"
+#include "startup/StartUp.h"
 #include "support/SampleSlips.h"
 #include "support/ScreenTest.h"
 
@@ -11,6 +10,16 @@ namespace {
 const QString question = u"Would you like to DELETE the Recurring Slip?"_s;
 const QString questionTitle = u"Delete a Recurring Slip"_s;
 const QString moved = u"The Recurring Delivery Slip has been Rescheduled"_s;
+
+/// A record of a priced item at $4.10.
+QByteArray PricedItemBytes(const QByteArray& name) {
+    return name.leftJustified(50, ' ') + QByteArray(20, ' ') + QByteArray(8, '\0') +
+           QByteArray("\x28\xa0\0\0\0\0\0\0", 8) + QByteArray(18, '\0');
+}
+
+QByteArray NonPricedItemBytes(const QByteArray& name) {
+    return name.leftJustified(50, ' ') + QByteArray(6, '\0');
+}
 
 /// Looks at the screens at the moment of the first message.
 class WatchingOperator : public ScriptedOperator {
@@ -42,16 +51,6 @@ protected:
     }
 };
 
-/// A priced item at $4.10, with stock numbers of no account.
-QByteArray PricedItemBytes(const QByteArray& name) {
-    return name.leftJustified(50, ' ') + QByteArray(20, ' ') + QByteArray(8, '\0') +
-           QByteArray("\x28\xa0\0\0\0\0\0\0", 8) + QByteArray(18, '\0');
-}
-
-QByteArray NonPricedItemBytes(const QByteArray& name) {
-    return name.leftJustified(50, ' ') + QByteArray(6, '\0');
-}
-
 TEST_F(StartUpSequence, EmptyFolderGetsItsFoldersAndNoFile) {
     Main(office, screens);
     const QStringList folders = {u"2026/"_s,
@@ -81,8 +80,8 @@ TEST_F(StartUpSequence, ThreePastRecurringSlipsAskThreeQuestionsAndMoveOn) {
     }
     Main(office, screens);
     for (const QString& number : {u"1"_s, u"2"_s, u"3"_s})
-        EXPECT_TRUE(folder.Read(HeaderName(number))
-                        .startsWith(number.toLatin1() + "\r\n3/10/2026\r\n"));
+        EXPECT_TRUE(
+            folder.Read(HeaderName(number)).startsWith(number.toLatin1() + "\r\n3/10/2026\r\n"));
 }
 
 TEST_F(StartUpSequence, SettingsFileOverrulesTheOtherTwo) {

@@ -35,12 +35,6 @@ protected:
     }
 
     bool PanelIsShown() { return Find<QWidget>(menu, u"fraNoCustomerFound"_s)->isVisible(); }
-    static QStringList TextsIn(const QWidget* part) {
-        QStringList texts;
-        for (const QLabel* label : part->findChildren<QLabel*>())
-            texts += label->text();
-        return texts;
-    }
     void Trigger(const QString& item) { Find<QAction>(menu, item)->trigger(); }
 };
 
@@ -134,9 +128,9 @@ TEST_F(StartupScreen, HeadingsStandOverTheRoutines) {
     WriteMasterFiles();
     screens.Show(menu);
     const QStringList texts = TextsIn(screens.Find(menu));
-    for (const QString& text : {u"Delivery Scheduling Routines"_s, u"Delivery Routines"_s,
-                                u"Data File Routines"_s, u"Reports"_s,
-                                u"Click on a Routine to Run it"_s})
+    for (const QString& text :
+         {u"Delivery Scheduling Routines"_s, u"Delivery Routines"_s, u"Data File Routines"_s,
+          u"Reports"_s, u"Click on a Routine to Run it"_s})
         EXPECT_EQ(texts.count(text), 1) << text.toStdString();
 }
 
@@ -273,12 +267,16 @@ TEST_F(StartupScreen, OnlyTheUsersCloseOfAScreenAsksForTheEnd) {
 TEST_F(StartupScreen, MenuBarCarriesItsCaptions) {
     WriteMasterFiles();
     screens.Show(menu);
-    const std::pair<QString, QString> items[] = {
-        {u"mnuCreate"_s, u"Create/Modify"_s},      {u"mnuExit"_s, u"Exit"_s},
-        {u"mnuHelp"_s, u"Help"_s},                 {u"mnuDeluxe"_s, u"Checks, Envelopes"_s},
-        {u"mnuDepositSlips"_s, u"Deposit Slips"_s}, {u"mnuPPaper"_s, u"Plain Paper"_s},
-        {u"mnuPPPaper"_s, u"Perfed Paper"_s},      {u"mnuGraytex"_s, u"Proposal Sets"_s},
-        {u"mnuAddress"_s, u"Mailing Labels"_s},    {u"mnuLabels"_s, u"Shipping Labels"_s}};
+    const std::pair<QString, QString> items[] = {{u"mnuCreate"_s, u"Create/Modify"_s},
+                                                 {u"mnuExit"_s, u"Exit"_s},
+                                                 {u"mnuHelp"_s, u"Help"_s},
+                                                 {u"mnuDeluxe"_s, u"Checks, Envelopes"_s},
+                                                 {u"mnuDepositSlips"_s, u"Deposit Slips"_s},
+                                                 {u"mnuPPaper"_s, u"Plain Paper"_s},
+                                                 {u"mnuPPPaper"_s, u"Perfed Paper"_s},
+                                                 {u"mnuGraytex"_s, u"Proposal Sets"_s},
+                                                 {u"mnuAddress"_s, u"Mailing Labels"_s},
+                                                 {u"mnuLabels"_s, u"Shipping Labels"_s}};
     for (const auto& [name, caption] : items)
         EXPECT_EQ(Find<QAction>(menu, name)->text(), caption);
     EXPECT_EQ(Find<QMenu>(menu, u"mnuFiles"_s)->title(), u" Files"_s);

@@ -610,8 +610,7 @@ TEST_F(BasicDiskRoutinesTest, ListingTakesALinkForWhatItLeadsTo) {
     folder.MakeFolder(u"Slips/Folder.txt"_s);
     Link(folder.PathOf(u"Elsewhere"_s), u"Slips/LinkToFolder.txt"_s);
     Link(folder.PathOf(u"Elsewhere/Target.txt"_s), u"Slips/LinkToFile.txt"_s);
-    EXPECT_EQ(disk.ListFiles(u"/Slips"_s, u"*.txt"_s),
-              std::vector<QString>{u"LinkToFile.txt"_s});
+    EXPECT_EQ(disk.ListFiles(u"/Slips"_s, u"*.txt"_s), std::vector<QString>{u"LinkToFile.txt"_s});
 }
 
 TEST_F(BasicDiskRoutinesTest, ListedNameWithAccentsOpensTheFile) {

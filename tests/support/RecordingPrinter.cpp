@@ -2,9 +2,8 @@
 
 #include "platform/RuntimeFailure.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
+#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -70,6 +69,5 @@ void RecordingPrinter::DrawText(double x, double y, const QString& text) {
         throw RuntimeFailure(FailsAsCancelled ? FailureKind::PrintCancelled
                                               : FailureKind::PrinterFailure,
                              u"The printer stopped."_s);
-    Texts.push_back(
-        {page, x, y, text, FontName, FontSize, FontBold, FontUnderline, ForeColor});
+    Texts.push_back({page, x, y, text, FontName, FontSize, FontBold, FontUnderline, ForeColor});
 }

@@ -19,16 +19,9 @@ QString ItemName(const QString& number) {
 }
 
 void WriteSlip(const TestFolder& folder, const SampleSlip& slip) {
-    QStringList header = {slip.number,
-                          slip.date,
-                          slip.time,
-                          slip.recurring,
-                          slip.frequency,
-                          slip.vehicle,
-                          slip.account,
-                          slip.customer,
-                          u"Prepared 3/9/2026"_s,
-                          u"Back door"_s};
+    QStringList header = {
+        slip.number,  slip.date,    slip.time,     slip.recurring,         slip.frequency,
+        slip.vehicle, slip.account, slip.customer, u"Prepared 3/9/2026"_s, u"Back door"_s};
     for (const QString& line : slip.soldTo + slip.shipTo)
         header += u'"' + line + u'"';
     const QStringList items = QStringList{slip.number, slip.itemCount} + slip.itemLines +

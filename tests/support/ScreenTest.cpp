@@ -3,6 +3,7 @@
 #include "platform/Grid.h"
 
 #include <QCloseEvent>
+#include <QLabel>
 #include <QtTest/qtestspontaneevent.h>
 
 ScreenTest::ScreenTest() : screens(office) {
@@ -47,6 +48,13 @@ void ScreenTest::CloseByUser(ScreenName screen) const {
     QSpontaneKeyEvent::setSpontaneous(&event);
     // Sending an event would take the mark of coming from outside off it.
     qApp->notify(screens.Find(screen), &event);
+}
+
+QStringList ScreenTest::TextsIn(const QWidget* part) {
+    QStringList texts;
+    for (const QLabel* label : part->findChildren<QLabel*>())
+        texts += label->text();
+    return texts;
 }
 
 void ScreenTest::WriteMasterFiles() const {

@@ -30,6 +30,8 @@ protected:
     static void Press(QWidget* control, Qt::Key key);
     static void Type(QWidget* control, const QString& text);
     bool IsShown(ScreenName screen) const;
+    /// The texts of all labels in a part of a screen, in the order of their making.
+    static QStringList TextsIn(const QWidget* part);
     /// What the window's close box does.
     void CloseByUser(ScreenName screen) const;
     /// Empty files of products, vehicles and customers, so that the menu opens everything.
