@@ -95,13 +95,13 @@ bool ScheduleBoard::IsOnBoard(int entry) const {
     return date == DTPicker1 && slips.Table.View(SlipLine::Vehicle, entry) == lstVehicles;
 }
 
-int ScheduleBoard::AddRow(int row, int entry) {
+int ScheduleBoard::AddRow(int row, int entry, const QString& charge) {
     const auto line = [&](SlipLine which) { return slips.Table.Text(which, entry); };
     SetCell(row, ScheduleColumn::Customer, line(SlipLine::CustomerName));
     SetCell(row, ScheduleColumn::AccountNo, line(SlipLine::Account));
     SetCell(row, ScheduleColumn::SlipNo, line(SlipLine::SlipNumber));
     SetCell(row, ScheduleColumn::Time, line(SlipLine::Time));
-    SetCell(row, ScheduleColumn::DeliveryCharge, ZeroCurrencyText());
+    SetCell(row, ScheduleColumn::DeliveryCharge, charge);
     SetCell(row, ScheduleColumn::Recurring, line(SlipLine::Recurring));
     SetCell(row, ScheduleColumn::Frequency, FrequencyLabel(line(SlipLine::Frequency)));
     SetCell(row, ScheduleColumn::TimeSortKey, TimeSortKey(line(SlipLine::Time)));
@@ -112,12 +112,13 @@ int ScheduleBoard::AddRow(int row, int entry) {
 void ScheduleBoard::LoadScheduleGrid() {
     const GridModel::Refill refill(fgSchedule);
     fgSchedule.ClearGrid();
+    const QString noCharge = ZeroCurrencyText();
     int row = 1;
     for (int entry = 1; entry <= slips.SlipCount; ++entry) {
         disk.CheckOpens(
             DeliverySlipRoutines::HeaderFile(slips.Table.View(SlipLine::SlipNumber, entry)));
         if (IsOnBoard(entry))
-            row = AddRow(row, entry);
+            row = AddRow(row, entry, noCharge);
     }
     // A day without deliveries keeps one empty row.
     if (row > 1)

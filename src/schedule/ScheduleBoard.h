@@ -92,7 +92,7 @@ public:
     QString PanelCaption() const;
 
 private:
-    int AddRow(int row, int entry);
+    int AddRow(int row, int entry, const QString& charge);
     bool IsOnBoard(int entry) const;
     void SetCell(int row, ScheduleColumn column, const QString& text);
     void LoadAddresses(const QString& slipNo);

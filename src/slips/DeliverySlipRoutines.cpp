@@ -41,26 +41,27 @@ QStringView SlipTable::View(SlipLine line, int entry) const {
     if (entry < 1 || size_t(entry) > entries.size())
         throw RuntimeFailure(FailureKind::Subscript,
                              u"The slip table has no entry %1."_s.arg(entry));
-    const auto& [text, places] = entries[size_t(entry) - 1];
-    const auto [start, length] = places[size_t(line) - 1];
-    return QStringView(text).sliced(start, length);
+    const auto& [text, ends] = entries[size_t(entry) - 1];
+    const auto place = size_t(line) - 1;
+    const qsizetype start = place == 0 ? 0 : ends[place - 1] + lineEnd.size();
+    return QStringView(text).sliced(start, ends[place] - start);
 }
 
 void SlipTable::Set(int entry, const QString& lines) {
-    auto& [text, places] = entries.at(size_t(entry) - 1);
+    if (size_t(entry) == entries.size() + 1)
+        entries.emplace_back();
+    auto& [text, ends] = entries.at(size_t(entry) - 1);
     text = lines;
     qsizetype start = 0;
-    for (Place& place : places) {
+    for (qint32& end : ends) {
         const qsizetype found = text.indexOf(lineEnd, start);
-        const qsizetype end = found < 0 ? text.size() : found;
-        place = {qint32(start), qint32(end - start)};
+        end = qint32(found < 0 ? text.size() : found);
         start = end + lineEnd.size();
     }
 }
 
-void SlipTable::Grow(int count) {
-    if (entries.size() < size_t(count))
-        entries.resize(size_t(count));
+void SlipTable::Reserve(int count) {
+    entries.reserve(size_t(count));
 }
 
 DeliverySlipRoutines::DeliverySlipRoutines(BasicDiskRoutines& diskRoutines,
@@ -117,7 +118,7 @@ void DeliverySlipRoutines::LoadSlips(bool processPast) {
 }
 
 void DeliverySlipRoutines::ReadHeaders(const std::vector<QString>& names) {
-    Table.Grow(SlipCount);
+    Table.Reserve(SlipCount);
     for (int entry = 1; entry <= SlipCount; ++entry) {
         disk.OpenForInput(deliveriesFolder % u'/' % names[size_t(entry) - 1]);
         Table.Set(entry, TextReader(disk).WholeLines(slipTableLines));

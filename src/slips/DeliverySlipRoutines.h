@@ -39,21 +39,18 @@ public:
     QString Text(SlipLine line, int entry) const;
     /// For looking at every slip there is; good until the table is rebuilt.
     QStringView View(SlipLine line, int entry) const;
-    /// The ten lines as they stand in the slip's file.
+    /// Sets an entry, or adds it behind the last. `lines` are the ten lines as they stand in the
+    /// slip's file.
     void Set(int entry, const QString& lines);
-    /// Makes room for entries 1 to `count`; what is there stays.
-    void Grow(int count);
+    /// Makes room for entries 1 to `count` without adding any.
+    void Reserve(int count);
 
 private:
-    struct Place {
-        qint32 start = 0;
-        qint32 length = 0;
-    };
-    /// A slip's lines as one text, and where each of them stands in it. They lie close together
-    /// because the board goes through all slips each time it is filled.
+    /// A slip's lines as one text with a CR LF between them, and where each of them ends in it.
+    /// They lie close together because the board goes through all slips each time it is filled.
     struct Entry {
         QString text;
-        std::array<Place, slipTableLines> places;
+        std::array<qint32, slipTableLines> ends{};
     };
     std::vector<Entry> entries;
 };

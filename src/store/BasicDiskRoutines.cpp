@@ -3,6 +3,7 @@
 #include "platform/RuntimeFailure.h"
 
 #include <QFile>
+#include <QStringEncoder>
 #include <QStringList>
 
 #include <algorithm>
@@ -51,7 +52,7 @@ private:
 
 /// Brings a name to the one form it has on disk and in messages: relative, with single slashes.
 template <typename Text>
-Text Relative(Text name) {
+void MakeRelative(Text& name) {
     using Character = typename Text::value_type;
     constexpr Character slash(u'/');
     constexpr Character otherSlash(u'\\');
@@ -64,8 +65,7 @@ Text Relative(Text name) {
         else if (end > start && end[-1] != slash)
             *end++ = slash;
     }
-    name.truncate(end - start);
-    return name;
+    name.resize(end - start);
 }
 
 QString Reading(const QString& name) {
@@ -125,10 +125,9 @@ QByteArray ReadText(int descriptor, const QString& name) {
     }
 }
 
-bool LeavesFolder(const QByteArray& path) {
-    const bool isSuspect =
-        std::string_view(path.data(), size_t(path.size())).find("..") != std::string_view::npos;
-    return isSuspect && path.split('/').contains("..");
+bool LeavesFolder(std::string_view path) {
+    return path.find("..") != std::string_view::npos &&
+           QByteArray(path.data(), qsizetype(path.size())).split('/').contains("..");
 }
 
 /// Not every file system tells the type of an entry in the listing.
@@ -166,7 +165,9 @@ RuntimeFailure NotOpen(qint16 fileNumber) {
 } // namespace
 
 QString Shown(const QString& name) {
-    return Relative(name);
+    QString shown = name;
+    MakeRelative(shown);
+    return shown;
 }
 
 BasicDiskRoutines::BasicDiskRoutines(const QString& folderPath) : dataFolder(folderPath) {
@@ -180,13 +181,18 @@ BasicDiskRoutines::~BasicDiskRoutines() {
     ::close(folder);
 }
 
-QByteArray BasicDiskRoutines::PathOf(const QString& name) const {
-    // Names on disk are UTF-8.
-    const QByteArray path = Relative(name.toUtf8());
-    if (path.contains('\0') || LeavesFolder(path))
+BasicDiskRoutines::DiskPath BasicDiskRoutines::PathOf(const QString& name) const {
+    QStringEncoder toUtf8(QStringEncoder::Utf8);
+    DiskPath path(toUtf8.requiredSpace(name.size()));
+    path.resize(toUtf8.appendToBuffer(path.data(), name) - path.data());
+    MakeRelative(path);
+    if (path.contains('\0') || LeavesFolder({path.data(), size_t(path.size())}))
         throw RuntimeFailure(FailureKind::BadFileName,
                              u"The name \"%1\" would lead out of the data folder."_s.arg(name));
-    return path.isEmpty() ? QByteArray(".") : path;
+    if (path.isEmpty())
+        path.append('.');
+    path.append('\0');
+    return path;
 }
 
 int BasicDiskRoutines::Open(const QString& name, int flags, const char* purpose) const {
@@ -366,8 +372,8 @@ void BasicDiskRoutines::MakeFolder(const QString& name) {
 }
 
 void BasicDiskRoutines::RenameDataFile(const QString& from, const QString& to) {
-    const QByteArray source = PathOf(from);
-    const QByteArray target = PathOf(to);
+    const DiskPath source = PathOf(from);
+    const DiskPath target = PathOf(to);
     const QString operation = u"Renaming %1 to %2"_s.arg(Shown(from), Shown(to));
     if (::renameat2(folder, source.constData(), folder, target.constData(), RENAME_NOREPLACE) < 0) {
         // Not every file system can refuse an existing target by itself.

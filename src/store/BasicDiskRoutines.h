@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QVarLengthArray>
 
 #include <map>
 #include <sys/types.h>
@@ -102,7 +103,9 @@ private:
         QString name;
     };
 
-    QByteArray PathOf(const QString& name) const;
+    /// With the closing zero byte.
+    using DiskPath = QVarLengthArray<char, 256>;
+    DiskPath PathOf(const QString& name) const;
     int Open(const QString& name, int flags, const char* purpose) const;
     bool IsThere(const QString& name) const;
     bool AnyFileExists(const QString& name);
