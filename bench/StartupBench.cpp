@@ -3,10 +3,11 @@
 #include "support/ProbeRun.h"
 #include "support/VirtualDisplay.h"
 
-#include <QTemporaryDir>
-
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
+#include <string>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -14,11 +15,6 @@ namespace {
 
 const std::string titleScreen = TITLE_SCREEN_PROBE;
 const std::string bareWindow = BARE_WINDOW_PROBE;
-
-VirtualDisplay& Display() {
-    static VirtualDisplay display;
-    return display;
-}
 
 /// The median of a few runs.
 double PeakMebibytes(const QString& folder, const std::vector<std::string>& commandLine) {
@@ -38,7 +34,7 @@ std::string Mebibytes(double size) {
 } // namespace
 
 static void StartToTitleScreen(benchmark::State& state) {
-    Display();
+    const VirtualDisplay display;
     CompareWithFloor(
         state, {"Start to painted title screen against a bare window", 2.0},
         [] {
@@ -59,7 +55,7 @@ static void PeakMemoryWithSlips(benchmark::State& state) {
     constexpr int slipsOfTarget = 50'000;
     constexpr double targetAboveBare = 60;
     constexpr double bytesInMebibyte = 1024.0 * 1024.0;
-    Display();
+    const VirtualDisplay display;
     const BenchFolder empty;
     const BenchFolder full;
     {

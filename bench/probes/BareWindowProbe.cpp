@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 int main(int argumentCount, char** arguments) {
     constexpr int width = 1180;
     constexpr int height = 720;
-    const QApplication application(argumentCount, arguments);
-    const FirstPaint firstPaint(PaintedLabel(), TellPeakMemoryAndEnd);
+    PaintWatch<QApplication> application(argumentCount, arguments);
+    application.OnPainted = TellPeakMemoryAndEnd;
     QWidget window;
     window.resize(width, height);
     QVBoxLayout rows(&window);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QEvent>
 #include <QObject>
 #include <QString>
 
@@ -8,21 +9,31 @@
 /// The label whose first painting counts as the window being painted, in both probes.
 QString PaintedLabel();
 
-/// Calls back once when the application has painted a label of that name for the first time, with
-/// the picture of the whole window handed to the display.
-class FirstPaint : public QObject {
-    Q_OBJECT
-
+/// An application that calls back once, when that label has been painted for the first time and the
+/// picture of the whole window has been handed to the display.
+template <typename Application>
+class PaintWatch : public Application {
 public:
-    FirstPaint(const QString& labelName, std::function<void()> painted);
+    using Application::Application;
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    std::function<void()> OnPainted;
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        const bool isPaint = event->type() == QEvent::Paint;
+        if (isPaint && receiver->objectName() == PaintedLabel())
+            isLabelPainted = true;
+        const bool result = Application::notify(receiver, event);
+        // Labels are painted, and then the picture handed over, while an event of the window lasts.
+        if (isLabelPainted && !isPaint && !isTold) {
+            isTold = true;
+            OnPainted();
+        }
+        return result;
+    }
 
 private:
-    QString name;
-    std::function<void()> onPainted;
-    bool isPainted = false;
+    bool isLabelPainted = false;
+    bool isTold = false;
 };
 
 /// Prints the largest size that the process has had in memory, in KiB, and ends it without any

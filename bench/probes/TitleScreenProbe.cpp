@@ -50,7 +50,7 @@ void Start(Run& run) {
 
 int main(int argumentCount, char** arguments) {
     std::signal(SIGXFSZ, SIG_IGN);
-    GuardedApplication application(argumentCount, arguments);
+    PaintWatch<GuardedApplication> application(argumentCount, arguments);
     QApplication::setApplicationName(u"tessel-delivery"_s);
     QApplication::setApplicationVersion(u"0"_s);
     QApplication::setQuitOnLastWindowClosed(false);
@@ -62,10 +62,10 @@ int main(int argumentCount, char** arguments) {
         if (isPainted && isDone)
             TellPeakMemoryAndEnd();
     };
-    const FirstPaint firstPaint(PaintedLabel(), [&] {
+    application.OnPainted = [&] {
         isPainted = true;
         endWhenBoth();
-    });
+    };
     Run run;
     QTimer::singleShot(0, qApp, [&] {
         Start(run);

@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
+#include <cstdlib>
 
 int main(int argumentCount, char** arguments) {
     benchmark::Initialize(&argumentCount, arguments);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cstdarg>
 #include <cstdio>
 #include <vector>
 
@@ -67,7 +66,8 @@ void AddToSummary(const SummaryLine& line) {
 }
 
 void AddNote(const std::string& note) {
-    notes.push_back(note);
+    if (std::find(notes.begin(), notes.end(), note) == notes.end())
+        notes.push_back(note);
 }
 
 void PrintSummary() {

@@ -34,6 +34,6 @@ struct SummaryLine {
     bool isMet;
 };
 void AddToSummary(const SummaryLine& line);
-/// Says something about the run as a whole at the head of the summary.
+/// Says something about the run as a whole at the head of the summary, once.
 void AddNote(const std::string& note);
 void PrintSummary();

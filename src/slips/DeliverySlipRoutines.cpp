@@ -72,7 +72,7 @@ DeliverySlipRoutines::DeliverySlipRoutines(BasicDiskRoutines& diskRoutines,
       user(person) {}
 
 QString DeliverySlipRoutines::HeaderFile(QStringView slipNo) {
-    return deliveriesFolder % u'/' % slipNo % ".txt"_L1;
+    return deliveriesFolder % u"/" % slipNo % u".txt";
 }
 
 QString DeliverySlipRoutines::ItemFile(const QString& slipNo) {

@@ -207,6 +207,7 @@ QString TrimBlanks(const QString& text) {
 
 double LeadingNumber(QStringView text) {
     QByteArray number;
+    number.reserve(text.size());
     bool afterPoint = false;
     for (const QChar character : text) {
         if (character == u' ')
