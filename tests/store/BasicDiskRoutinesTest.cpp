@@ -908,3 +908,13 @@ TEST_F(BasicDiskRoutinesTest, OpenFileIsWrittenWhenTheRoutinesEnd) {
     }
     EXPECT_EQ(folder.Read(u"A.txt"_s), "kept\r\n");
 }
+
+TEST_F(BasicDiskRoutinesTest, CheckOpensClosesAllFilesAndFailsForAMissingOne) {
+    folder.Write(u"a.txt"_s, "a\r\n");
+    disk.OpenForInput(u"/a.txt"_s);
+    disk.CheckOpens(u"/a.txt"_s);
+    EXPECT_EQ(FailureOf([&] { disk.InputOn(disk.DiskFile); }).Kind(), FailureKind::FileNotOpen);
+    const RuntimeFailure failure = FailureOf([&] { disk.CheckOpens(u"/gone.txt"_s); });
+    EXPECT_EQ(failure.Kind(), FailureKind::FileNotFound);
+    EXPECT_TRUE(failure.Sentence().contains(u"gone.txt"_s));
+}

@@ -330,3 +330,11 @@ TEST_F(TextLinesTest, LongFieldIsShownShortInTheFailure) {
     const RuntimeFailure failure = FailureOf([this] { Reading(QByteArray(100'000, 'x')).Int16(); });
     EXPECT_LT(failure.Sentence().size(), 150);
 }
+
+TEST_F(TextLinesTest, SeveralWholeLinesComeWithTheirLineEnds) {
+    TextReader lines = Reading("one\r\n\"two\"\r\nthree\r\n");
+    EXPECT_EQ(lines.WholeLines(2), u"one\r\n\"two\"\r\n"_s);
+    EXPECT_EQ(lines.WholeLine(), u"three"_s);
+    TextReader tooFew = Reading("one\r\n");
+    EXPECT_EQ(FailureOf([&] { tooFew.WholeLines(2); }).Kind(), FailureKind::ReadPastEnd);
+}
