@@ -99,8 +99,9 @@ QString StyleSheetOf(const Theme& theme) {
     for (const auto& [name, color] : colors)
         sheet.replace(name, color.name());
     // A style sheet can't colour a picture, so there is one for each scheme.
-    sheet.replace(u"$check"_s, &theme == &darkTheme ? u":/icons/check-dark.svg"_s
-                                                    : u":/icons/check-light.svg"_s);
+    const QString scheme = &theme == &darkTheme ? u"dark"_s : u"light"_s;
+    for (const QString& picture : {u"check"_s, u"chevron"_s})
+        sheet.replace(u'$' + picture, u":/icons/%1-%2.svg"_s.arg(picture, scheme));
     return sheet;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/DatePicker.h"
 #include "platform/ElidedLabel.h"
 #include "platform/Grid.h"
+#include "platform/KeyFilter.h"
 #include "platform/Theme.h"
 #include "platform/UpDown.h"
 #include "startup/Office.h"
@@ -14,7 +15,6 @@
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -157,7 +157,8 @@ QWidget* frmPrintSchedules::MakeChargeCard() {
     txtDeliveryCharge = Named(new QLineEdit, u"txtDeliveryCharge"_s);
     txtDeliveryCharge->setAlignment(Qt::AlignRight);
     txtDeliveryCharge->setAccessibleName(u"Delivery Charge"_s);
-    txtDeliveryCharge->installEventFilter(this);
+    new KeyFilter(txtDeliveryCharge,
+                  [this](ushort key) { return txtDeliveryCharge_KeyPress(key); });
     auto* row = new QHBoxLayout;
     row->addWidget(
         MakeButton(EnterToGrid, u"Enter to Grid"_s, u"Enter Delivery Charge to the Grid"_s), 1);
@@ -449,7 +450,7 @@ void frmPrintSchedules::fgSchedule_KeyPress(ushort key) {
                                 board.fgSchedule.CurrentColumn() + step);
 }
 
-bool frmPrintSchedules::txtDeliveryCharge_KeyPress(ushort key) {
+ushort frmPrintSchedules::txtDeliveryCharge_KeyPress(ushort key) {
     Operator& user = office.machine.user;
     const QString text = txtDeliveryCharge->text();
     if (key == u'.' && text.contains(u'.'))
@@ -457,22 +458,7 @@ bool frmPrintSchedules::txtDeliveryCharge_KeyPress(ushort key) {
     const ushort passed = FilterNumericKey(key, text, user);
     if (text == ZeroCurrencyText())
         txtDeliveryCharge->clear();
-    return passed != 0;
-}
-
-bool frmPrintSchedules::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == txtDeliveryCharge && event->type() == QEvent::KeyPress) {
-        const auto* press = static_cast<QKeyEvent*>(event);
-        const bool isCommand = press->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
-        const bool isEditing = press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter ||
-                               press->key() == Qt::Key_Tab || press->key() == Qt::Key_Backtab ||
-                               press->key() == Qt::Key_Escape || press->key() == Qt::Key_Delete;
-        const QString text = press->text();
-        if (!isCommand && !isEditing && text.size() == 1 &&
-            !txtDeliveryCharge_KeyPress(text[0].unicode()))
-            return true;
-    }
-    return Screen::eventFilter(watched, event);
+    return passed;
 }
 
 void frmPrintSchedules::cmdPrint_Click(Button index) {

@@ -44,9 +44,6 @@ public:
         ToggleSlip = 12,
     };
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     QPushButton* MakeButton(Button index, const QString& caption, const QString& tip = {});
     void MakeFootButtons();
@@ -74,8 +71,7 @@ private:
     void lstVehicles_Click();
     void fgSchedule_Click(int row, int column);
     void fgSchedule_KeyPress(ushort key);
-    /// True when the key is to go on to the field.
-    bool txtDeliveryCharge_KeyPress(ushort key);
+    ushort txtDeliveryCharge_KeyPress(ushort key);
     void cmdPrint_Click(Button index);
     void cmdPrint_EnterToGrid();
     void cmdPrint_ClearCharge();

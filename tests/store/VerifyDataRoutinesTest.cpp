@@ -81,3 +81,68 @@ TEST_F(VerifyDataRoutinesTest, DigitKeySwallowsEveryOtherCharacter) {
     for (const char16_t key : u"x ,-+$/:\r\t\u00bd\u0661"_s.toStdU16String())
         EXPECT_EQ(FilterDigitKey(key), 0);
 }
+
+namespace {
+
+QString InvalidCharacter(char16_t key) {
+    return u"This character, ("_s + QChar(key) + u") is invalid for this field"_s;
+}
+
+} // namespace
+
+TEST_F(VerifyDataRoutinesTest, NoSpecialRefusesEachSeparatorWithABeepAndAMessage) {
+    for (const char16_t key : u",&.\\*/?"_s.toStdU16String()) {
+        user.ExpectMessage(InvalidCharacter(key), u"Invalid Key entry"_s);
+        EXPECT_EQ(FilterNoSpecial(key, u""_s, user), 0);
+        user.ExpectNothingLeft();
+    }
+    EXPECT_EQ(user.Beeps, 7);
+}
+
+TEST_F(VerifyDataRoutinesTest, NoSpecialLetsTheSlashThroughOnAFieldThatHoldsANumber) {
+    EXPECT_EQ(FilterNoSpecial(u'/', u"123"_s, user), u'/');
+    EXPECT_EQ(user.Beeps, 0);
+}
+
+TEST_F(VerifyDataRoutinesTest, NoSpecialRefusesTheSlashOnAFieldThatHoldsNoPlainNumber) {
+    user.ExpectMessage(u"This character, (/) is invalid for this field"_s, u"Invalid Key entry"_s);
+    EXPECT_EQ(FilterNoSpecial(u'/', u"12A"_s, user), 0);
+    EXPECT_EQ(user.Beeps, 1);
+}
+
+TEST_F(VerifyDataRoutinesTest, NoSpecialLetsAllOtherKeysPass) {
+    for (const char16_t key : u"aZ09 -_'\"#:;\u00e9\b"_s.toStdU16String())
+        EXPECT_EQ(FilterNoSpecial(key, u"A"_s, user), key);
+    EXPECT_EQ(user.Beeps, 0);
+}
+
+TEST_F(VerifyDataRoutinesTest, AddressKeyRefusesTheDoubleQuoteWithABeepAndAMessage) {
+    user.ExpectMessage(u"This character, (\") is invalid for this field"_s, u"Invalid Key entry"_s);
+    EXPECT_EQ(FilterAddressKey(u'"', user), 0);
+    EXPECT_EQ(user.Beeps, 1);
+}
+
+TEST_F(VerifyDataRoutinesTest, AddressKeyLetsAllOtherKeysPass) {
+    for (const char16_t key : u"aZ09 ,&.\\*/?'\b"_s.toStdU16String())
+        EXPECT_EQ(FilterAddressKey(key, user), key);
+    EXPECT_EQ(user.Beeps, 0);
+}
+
+TEST_F(VerifyDataRoutinesTest, CurrencyFieldBringsANumberToItsCurrencyText) {
+    QString text = u"12.5"_s;
+    EXPECT_TRUE(FormatCurrencyField(text, user));
+    EXPECT_EQ(text, u"$12.50"_s);
+    EXPECT_EQ(user.Beeps, 0);
+}
+
+TEST_F(VerifyDataRoutinesTest, CurrencyFieldEmptiesAnyOtherTextWithABeep) {
+    QString text = u"abc"_s;
+    EXPECT_FALSE(FormatCurrencyField(text, user));
+    EXPECT_EQ(text, u""_s);
+    EXPECT_EQ(user.Beeps, 1);
+}
+
+TEST_F(VerifyDataRoutinesTest, InvalidDateIsTold) {
+    user.ExpectMessage(u"Your Calendar Selection is Invalid"_s);
+    DateIsInvalid(user);
+}
