@@ -6,7 +6,7 @@
 #include "platform/Operator.h"
 #include "platform/RuntimeFailure.h"
 #include "products/SalesItemLists.h"
-#include "setup/SettingsStore.h"
+#include "setup/SetupRoutines.h"
 #include "slips/DeliverySlipRoutines.h"
 #include "slips/VehicleFleet.h"
 #include "startup/DataFolderLayout.h"
@@ -36,8 +36,18 @@ public:
     std::optional<QString> InputBox(const QString&, const QString&, const QString&) override {
         return {};
     }
+    std::optional<QString> AskForFile(const QString&) override { return {}; }
+    std::optional<quint32> AskForColor(quint32) override { return {}; }
+    std::optional<QString> AskForFont(const QString&) override { return {}; }
     void Beep() override {}
     void ShowBusy(bool) override {}
+};
+
+/// A fresh sample has no logo to look for.
+class NoPictures : public PictureFiles {
+public:
+    bool Exists(const QString&) const override { return false; }
+    Picture Load(const QString&) const override { return {}; }
 };
 
 void MakeEmptyFolder(const QString& folder) {
@@ -123,7 +133,8 @@ private:
 class SampleBusiness {
 public:
     SampleBusiness(const QString& folder, QDate today)
-        : clock(today), days(today), disk(folder), store(disk, settings),
+        : clock(today), days(today), disk(folder), store(disk, settings, noPictures),
+          modem(disk, settings), setup(store, modem, settings, nobody),
           calendar(disk, nobody, settings.WorkWeek), slips(disk, calendar, settings, clock, nobody),
           preparedText(u"Prepared "_s + ShortDateText(today)) {}
 
@@ -154,16 +165,19 @@ private:
     NobodyThere nobody;
     Days days;
     BasicDiskRoutines disk;
+    NoPictures noPictures;
     LiveSettings settings;
     SettingsStore store;
+    Modem modem;
+    SetupRoutines setup;
     Calendar calendar;
     DeliverySlipRoutines slips;
     QString preparedText;
 };
 
 void SampleBusiness::WriteSettings() {
-    store.LoadAll();
-    std::copy(sampleBusiness.begin(), sampleBusiness.end(), settings.BusinessData.begin());
+    setup.LoadAll();
+    std::copy(sampleBusiness.begin(), sampleBusiness.end(), settings.txtBusiness.begin());
     settings.ckColor = 1;
     settings.ckPopulateInvoices = 1;
     settings.ckDeliveryCharge = 1;
@@ -176,16 +190,8 @@ void SampleBusiness::WriteSettings() {
     settings.BorderColor = 0x696E0B;
     settings.TextColor = 0x33271C;
     settings.DocumentFont = u"DejaVu Sans"_s;
-    settings.PrintCopies = 1;
-
-    store.SaveBusinessData();
-    store.SaveSettings();
-    store.SavePrompts();
-    store.SavePrintColors();
-    store.SaveTaxSettings();
-    store.SaveLogoSettings();
-    store.SaveAppSettings();
-    store.SaveWorkDay();
+    settings.cboCopies = u"1"_s;
+    setup.SaveAll();
 }
 
 void SampleBusiness::WriteHolidays() {

@@ -1,5 +1,6 @@
 #include "platform/DesktopBrowser.h"
 #include "platform/DesktopOperator.h"
+#include "platform/DesktopPictures.h"
 #include "platform/FolderLock.h"
 #include "platform/GuardedApplication.h"
 #include "platform/PagePrinter.h"
@@ -33,6 +34,7 @@ struct Run {
     SystemClock clock;
     DesktopOperator user;
     DesktopBrowser browser;
+    DesktopPictures pictures;
     PagePrinter printer{[this](const QString& path) { OpenDocument(path); }};
     std::unique_ptr<FolderLock> lock;
     std::unique_ptr<Office> office;
@@ -47,7 +49,8 @@ void Start(Run& run) {
         return;
     }
     run.office = std::make_unique<Office>(dataFolder,
-                                          Machine{run.clock, run.user, run.printer, run.browser});
+                                          Machine{run.clock, run.user, run.printer, run.browser,
+                                                  run.pictures});
     run.screens = std::make_unique<Screens>(*run.office);
     QObject::connect(run.screens.get(), &Screens::ExitRequested, qApp,
                      [] { QCoreApplication::exit(EXIT_SUCCESS); });

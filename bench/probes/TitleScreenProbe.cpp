@@ -4,6 +4,7 @@
 #include "Probe.h"
 #include "platform/DesktopBrowser.h"
 #include "platform/DesktopOperator.h"
+#include "platform/DesktopPictures.h"
 #include "platform/FolderLock.h"
 #include "platform/GuardedApplication.h"
 #include "platform/PagePrinter.h"
@@ -29,6 +30,7 @@ struct Run {
     SystemClock clock;
     DesktopOperator user;
     DesktopBrowser browser;
+    DesktopPictures pictures;
     PagePrinter printer{[](const QString&) {}};
     std::unique_ptr<FolderLock> lock;
     std::unique_ptr<Office> office;
@@ -40,8 +42,8 @@ void Start(Run& run) {
     run.lock = std::make_unique<FolderLock>(dataFolder);
     if (!run.lock->IsHeld())
         ::_exit(EXIT_FAILURE);
-    run.office = std::make_unique<Office>(dataFolder,
-                                          Machine{run.clock, run.user, run.printer, run.browser});
+    run.office = std::make_unique<Office>(
+        dataFolder, Machine{run.clock, run.user, run.printer, run.browser, run.pictures});
     run.screens = std::make_unique<Screens>(*run.office);
     Main(*run.office, *run.screens);
 }

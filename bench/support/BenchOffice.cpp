@@ -11,9 +11,9 @@ Answer NoSayer::MsgBox(const QString&, Buttons buttons, const QString&) {
 }
 
 BenchOffice::BenchOffice(const QString& dataFolder)
-    : rules(dataFolder, {clock, user, printer, browser}) {
+    : rules(dataFolder, {clock, user, printer, browser, pictures}) {
     CreateFolders(rules.disk, clock);
-    rules.settingsStore.LoadAll();
+    rules.setup.LoadAll();
 }
 
 void WriteHeader(Office& office, const BenchSlip& slip) {

@@ -33,8 +33,17 @@ public:
     std::optional<QString> InputBox(const QString&, const QString&, const QString&) override {
         return {};
     }
+    std::optional<QString> AskForFile(const QString&) override { return {}; }
+    std::optional<quint32> AskForColor(quint32) override { return {}; }
+    std::optional<QString> AskForFont(const QString&) override { return {}; }
     void Beep() override {}
     void ShowBusy(bool) override {}
+};
+
+class NoPictures : public PictureFiles {
+public:
+    bool Exists(const QString&) const override { return false; }
+    Picture Load(const QString&) const override { return {}; }
 };
 
 class NoBrowser : public WebBrowser {
@@ -50,6 +59,7 @@ struct BenchOffice {
     FixedClock clock;
     NoSayer user;
     NoBrowser browser;
+    NoPictures pictures;
     PagePrinter printer{[](const QString&) {}};
     Office rules;
 };

@@ -1,12 +1,32 @@
 #include "platform/DesktopOperator.h"
 
+#include "platform/ColorNumber.h"
 #include "platform/ProgramTitle.h"
 
 #include <QApplication>
+#include <QColorDialog>
+#include <QDir>
+#include <QFileDialog>
+#include <QFontDialog>
 #include <QInputDialog>
 #include <QMessageBox>
 
+using namespace Qt::StringLiterals;
+
 namespace {
+
+/// "Pictures |(*.bmp; *.ico)|All|*.*" as the toolkit wants it: a line for each pair, the patterns
+/// parted by blanks, and a bare star for all files.
+QString ToolkitFilter(const QString& filter) {
+    const QStringList parts = filter.split(u'|');
+    QStringList lines;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QString patterns = parts[i + 1];
+        patterns.remove(u'(').remove(u')').replace(u';', u' ').replace(u"*.*"_s, u"*"_s);
+        lines += u"%1 (%2)"_s.arg(parts[i].trimmed(), patterns.simplified());
+    }
+    return lines.join(u";;"_s);
+}
 
 QString TitleOr(const QString& title) {
     return title.isEmpty() ? ProgramTitle() : title;
@@ -40,6 +60,34 @@ std::optional<QString> DesktopOperator::InputBox(const QString& prompt, const QS
     const QString text = QInputDialog::getText(QApplication::activeWindow(), TitleOr(title), prompt,
                                                QLineEdit::Normal, proposal, &accepted);
     return accepted ? std::optional(text) : std::nullopt;
+}
+
+std::optional<QString> DesktopOperator::AskForFile(const QString& filter) {
+    QFileDialog dialog(QApplication::activeWindow());
+    dialog.setObjectName(u"fileDialog"_s);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setDirectory(QDir::currentPath());
+    dialog.setNameFilters(ToolkitFilter(filter).split(u";;"_s));
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.selectedFiles().value(0);
+}
+
+std::optional<quint32> DesktopOperator::AskForColor(quint32 color) {
+    QColorDialog dialog(ColorOf(color), QApplication::activeWindow());
+    dialog.setObjectName(u"colorDialog"_s);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return NumberOf(dialog.selectedColor());
+}
+
+std::optional<QString> DesktopOperator::AskForFont(const QString& name) {
+    QFontDialog dialog(QFont(name), QApplication::activeWindow());
+    dialog.setObjectName(u"fontDialog"_s);
+    dialog.setOption(QFontDialog::ScalableFonts);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.selectedFont().family();
 }
 
 void DesktopOperator::Beep() {

@@ -8,6 +8,9 @@ public:
     Answer MsgBox(const QString& text, Buttons buttons, const QString& title) override;
     std::optional<QString> InputBox(const QString& prompt, const QString& title,
                                     const QString& proposal) override;
+    std::optional<QString> AskForFile(const QString& filter) override;
+    std::optional<quint32> AskForColor(quint32 color) override;
+    std::optional<QString> AskForFont(const QString& name) override;
     void Beep() override;
     void ShowBusy(bool busy) override;
 };

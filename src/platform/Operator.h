@@ -21,6 +21,14 @@ public:
     virtual std::optional<QString> InputBox(const QString& prompt, const QString& title = {},
                                             const QString& proposal = {}) = 0;
 
+    /// Asks for a file that is there; its full path, or nothing when the operator cancels. The
+    /// filter is pairs of a name and its patterns, all parted by "|".
+    virtual std::optional<QString> AskForFile(const QString& filter) = 0;
+    /// Asks for a colour, 0x00BBGGRR, starting from one; nothing when the operator cancels.
+    virtual std::optional<quint32> AskForColor(quint32 color) = 0;
+    /// Asks for the name of a font that a printer can print; nothing when the operator cancels.
+    virtual std::optional<QString> AskForFont(const QString& name) = 0;
+
     virtual void Beep() = 0;
 
     /// Turns the mouse pointer into the hourglass, and back.

@@ -1,5 +1,6 @@
 #include "platform/PagePrinter.h"
 
+#include "platform/ColorNumber.h"
 #include "platform/RuntimeFailure.h"
 
 #include <QBuffer>
@@ -36,12 +37,20 @@ RuntimeFailure Failed(const QString& operation, const QString& reason) {
     return {FailureKind::PrinterFailure, operation + u" failed: "_s + reason.trimmed()};
 }
 
-QColor ColorOf(quint32 color, bool inColor) {
-    const QRgb rgb = qRgb(int(color & 0xff), int(color >> 8 & 0xff), int(color >> 16 & 0xff));
+QColor PrintedColor(quint32 color, bool inColor) {
+    const QColor full = ColorOf(color);
     if (inColor)
-        return QColor(rgb);
-    const int grey = qGray(rgb);
+        return full;
+    const int grey = qGray(full.rgb());
     return {grey, grey, grey};
+}
+
+/// What is transparent is the paper's white.
+QImage InGrey(const QImage& image) {
+    QImage onPaper(image.size(), QImage::Format_RGB32);
+    onPaper.fill(Qt::white);
+    QPainter(&onPaper).drawImage(0, 0, image);
+    return onPaper.convertToFormat(QImage::Format_Grayscale8);
 }
 
 /// Empty when the machine has no printer.
@@ -176,8 +185,8 @@ public:
     void UsePen(const PenLook& look) {
         if (look == penLook)
             return;
-        painter.setPen(QPen(ColorOf(look.color, InColor), look.width * twipsInDot, Qt::SolidLine,
-                            Qt::FlatCap, Qt::MiterJoin));
+        painter.setPen(QPen(PrintedColor(look.color, InColor), look.width * twipsInDot,
+                            Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
         penLook = look;
     }
 
@@ -277,7 +286,15 @@ void PagePrinter::Box(double x1, double y1, double x2, double y2, quint32 color)
 void PagePrinter::FillBox(double x1, double y1, double x2, double y2, quint32 color) {
     Job& current = JobInHand();
     current.Painter().fillRect(QRectF(QPointF(x1, y1), QPointF(x2, y2)).normalized(),
-                               ColorOf(color, current.InColor));
+                               PrintedColor(color, current.InColor));
+}
+
+void PagePrinter::PaintPicture(const Picture& picture, double x, double y, double width,
+                               double height) {
+    Job& current = JobInHand();
+    const QImage& image = *picture.Image;
+    current.Painter().drawImage(QRectF(x, y, width, height),
+                                current.InColor ? image : InGrey(image));
 }
 
 void PagePrinter::NewPage() {

@@ -33,6 +33,8 @@ public:
     void Line(double x1, double y1, double x2, double y2, quint32 color) override;
     void Box(double x1, double y1, double x2, double y2, quint32 color) override;
     void FillBox(double x1, double y1, double x2, double y2, quint32 color) override;
+    void PaintPicture(const Picture& picture, double x, double y, double width,
+                      double height) override;
 
     void NewPage() override;
     /// Does nothing when nothing has been drawn.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Picture.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -43,6 +45,9 @@ public:
     virtual void Line(double x1, double y1, double x2, double y2, quint32 color) = 0;
     virtual void Box(double x1, double y1, double x2, double y2, quint32 color) = 0;
     virtual void FillBox(double x1, double y1, double x2, double y2, quint32 color) = 0;
+    /// Stretches the picture to the width and height given.
+    virtual void PaintPicture(const Picture& picture, double x, double y, double width,
+                              double height) = 0;
 
     /// Ends the page and moves the pen to the upper left corner of the next.
     virtual void NewPage() = 0;

@@ -53,6 +53,10 @@ Wording WordingOf(FailureKind kind) {
         return {u"Printer failure"_s, u"Check the printer and print again."_s};
     case FailureKind::PrintCancelled:
         return {u"Printing cancelled"_s, u"Print again when you are ready."_s};
+    case FailureKind::BadPicture:
+        return {u"Invalid picture"_s,
+                u"Choose another picture for your logo. If the program no longer starts, move this "
+                u"picture away and start again."_s};
     }
     return {u"Failure"_s, u"Start the program again."_s};
 }

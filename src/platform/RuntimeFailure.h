@@ -22,6 +22,7 @@ enum class FailureKind {
     Subscript,
     PrinterFailure,
     PrintCancelled,
+    BadPicture,
 };
 
 /// The one exception of the program: something that stops it. It carries a sentence that names

@@ -21,10 +21,11 @@ QToolButton* MakeButton(const QString& name, Qt::ArrowType arrow, const QString&
 
 } // namespace
 
-UpDown::UpDown(const QString& name, const QString& what, QWidget* parent) : QWidget(parent) {
+UpDown::UpDown(const QString& name, const QString& downTip, const QString& upTip, QWidget* parent)
+    : QWidget(parent) {
     setObjectName(name);
-    auto* down = MakeButton(name + u"(down)"_s, Qt::LeftArrow, u"Previous "_s + what);
-    auto* up = MakeButton(name + u"(up)"_s, Qt::RightArrow, u"Next "_s + what);
+    auto* down = MakeButton(name + u"(down)"_s, Qt::LeftArrow, downTip);
+    auto* up = MakeButton(name + u"(up)"_s, Qt::RightArrow, upTip);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins({});
     row->setSpacing(gap);

@@ -7,8 +7,9 @@ class UpDown : public QWidget {
     Q_OBJECT
 
 public:
-    /// `what` is what is stepped, for tool tips and screen readers: "day".
-    UpDown(const QString& name, const QString& what, QWidget* parent = nullptr);
+    /// The tips say what a click does, to screen readers too: "Next day".
+    UpDown(const QString& name, const QString& downTip, const QString& upTip,
+           QWidget* parent = nullptr);
 
 Q_SIGNALS:
     void UpClick();

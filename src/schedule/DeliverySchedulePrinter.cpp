@@ -1,6 +1,7 @@
 #include "schedule/DeliverySchedulePrinter.h"
 
 #include "platform/RuntimeFailure.h"
+#include "schedule/PrintErrors.h"
 #include "store/Conversions.h"
 
 using namespace Qt::StringLiterals;
@@ -44,13 +45,7 @@ DeliverySchedulePrinter::DeliverySchedulePrinter(ScheduleBoard& scheduleBoard,
       settings(liveSettings), user(person) {}
 
 void DeliverySchedulePrinter::Print(bool printSchedule) {
-    try {
-        PrintMarked(printSchedule);
-    } catch (const RuntimeFailure& failure) {
-        PassOver([this] { surface.AbandonJob(); });
-        if (failure.Kind() != FailureKind::PrintCancelled)
-            user.MsgBox(u"A Print Error has occurred"_s, Buttons::Ok, u"Print Error"_s);
-    }
+    HandlePrintErrors(surface, user, [this, printSchedule] { PrintMarked(printSchedule); });
 }
 
 void DeliverySchedulePrinter::PrintMarked(bool printSchedule) {

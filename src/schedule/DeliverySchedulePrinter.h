@@ -12,7 +12,6 @@ public:
                             const LiveSettings& liveSettings, Operator& person);
 
     /// The press of the print button: the schedule of the marked deliveries, if `printSchedule`.
-    /// The one place that handles a printing error.
     void Print(bool printSchedule);
 
     /// Leaves the last slip printed in the board's slip panel.

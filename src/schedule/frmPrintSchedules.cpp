@@ -3,6 +3,7 @@
 #include "platform/ChoiceList.h"
 #include "platform/DatePicker.h"
 #include "platform/ElidedLabel.h"
+#include "platform/Form.h"
 #include "platform/Grid.h"
 #include "platform/KeyFilter.h"
 #include "platform/Theme.h"
@@ -46,12 +47,6 @@ QLabel* MakeLogo() {
     imgLogo->setPixmap(
         LineIcon(u"truck"_s, Theme::Current().accent, size, imgLogo->devicePixelRatioF()));
     return imgLogo;
-}
-
-QLabel* SoftLabel(const QString& text) {
-    auto* label = new QLabel(text);
-    label->setProperty("soft", true);
-    return label;
 }
 
 } // namespace
@@ -117,7 +112,7 @@ QWidget* frmPrintSchedules::MakeDateCard() {
     auto* card = new Card(u"Date"_s);
     DTPicker1 = Named(new DatePicker, u"DTPicker1"_s);
     DTPicker1->setAccessibleName(u"Date of the deliveries"_s);
-    auto* upDown = new UpDown(u"UpDown1"_s, u"day"_s);
+    auto* upDown = new UpDown(u"UpDown1"_s, u"Previous day"_s, u"Next day"_s);
     lblWeekday = Named(SoftLabel({}), u"lblWeekday"_s);
     auto* row = new QHBoxLayout;
     row->addWidget(DTPicker1, 1);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Picture.h"
+
 #include <QString>
 
 #include <array>
@@ -10,9 +12,11 @@
 ///
 /// The check values (ck...) are 0 unticked, 1 ticked.
 struct LiveSettings {
-    /// MyBusinessData.txt: name, two address lines, city, state, postal code, telephone, fax or
-    /// web, tax number.
+    /// MyBusinessData.txt as it was last read or written: name, two address lines, city, state,
+    /// postal code, telephone, fax or web, tax number.
     std::array<QString, 9> BusinessData;
+    /// The same nine as the setup screen shows them; a save takes them over.
+    std::array<QString, 9> txtBusiness;
 
     // Settings.txt
     qint16 ReservedSetting = 8;
@@ -60,10 +64,25 @@ struct LiveSettings {
     /// Kept as it was first written; nothing but the sample print looks at it.
     bool PrintInColorFlag = true;
     quint8 PrintCopies = 3;
+    /// The box of the copies, free text; a save turns it into PrintCopies.
+    QString cboCopies;
+    /// What the print dialog offers: the copies at the time PrintColors.txt was read.
+    quint8 printDialogCopies = 3;
+
+    // Phone.txt
+    bool PhoneDaisyChained = false;
+    qint16 ComPort = 1;
+    /// What the check box shows; a save turns it into PhoneDaisyChained.
+    bool ckPhone = false;
+    /// The port that was found at the start, which can differ from the ComPort kept in the file.
+    QString txtModemPort;
+    /// Whether the label that tells of Caller ID shows.
+    bool lblCallid = false;
 
     /// CompanyLogo.txt: the full path of the picture; empty for no logo.
     QString logoFile;
-
+    /// The picture of that file; none when there is no logo or its file has gone.
+    Picture logo;
     /// LogoSettings.txt: the size the logo prints in, twips.
     float logoWidth = 1440;
     float logoHeight = 1440;

@@ -32,32 +32,24 @@ QString AmountBoxText(const QString& text) {
 
 } // namespace
 
-SettingsStore::SettingsStore(BasicDiskRoutines& diskRoutines, LiveSettings& liveSettings)
-    : disk(diskRoutines), settings(liveSettings) {}
-
-void SettingsStore::LoadAll() {
-    LoadBusinessData();
-    LoadPrompts();
-    LoadPrintColors();
-    LoadTaxSettings();
-    LoadCompanyLogo();
-    LoadLogoSettings();
-    LoadDeliverySettings();
-    LoadWorkDays();
-}
+SettingsStore::SettingsStore(BasicDiskRoutines& diskRoutines, LiveSettings& liveSettings,
+                             const PictureFiles& pictureFiles)
+    : disk(diskRoutines), settings(liveSettings), pictures(pictureFiles) {}
 
 void SettingsStore::LoadBusinessData() {
     settings.BusinessData.fill({});
-    if (!disk.FileExists(businessDataFile))
-        return;
-    disk.OpenForInput(businessDataFile);
-    TextReader reader(disk);
-    for (QString& field : settings.BusinessData)
-        field = reader.Text();
-    disk.CloseAllFiles();
+    if (disk.FileExists(businessDataFile)) {
+        disk.OpenForInput(businessDataFile);
+        TextReader reader(disk);
+        for (QString& field : settings.BusinessData)
+            field = reader.Text();
+        disk.CloseAllFiles();
+    }
+    settings.txtBusiness = settings.BusinessData;
 }
 
 void SettingsStore::SaveBusinessData() {
+    settings.BusinessData = settings.txtBusiness;
     RecordLine line;
     for (const QString& field : settings.BusinessData)
         line.Text(field);
@@ -104,6 +96,8 @@ void SettingsStore::LoadPrintColors() {
         settings.PrintInColorFlag = true;
         settings.PrintCopies = 3;
     }
+    settings.cboCopies = QString::number(settings.PrintCopies);
+    settings.printDialogCopies = settings.PrintCopies;
     settings.ckColor = settings.PrintInColorFlag ? 1 : 0;
     settings.CurrentPrintColor = quint32(settings.BorderColor);
 }
@@ -150,22 +144,32 @@ void SettingsStore::SaveTaxSettings() {
 
 void SettingsStore::LoadCompanyLogo() {
     settings.logoFile.clear();
+    settings.logo = {};
     if (!disk.FileExists(companyLogoFile))
         return;
     disk.OpenForInput(companyLogoFile);
     settings.logoFile = TextReader(disk).Text();
     disk.CloseAllFiles();
+    if (pictures.Exists(settings.logoFile))
+        settings.logo = pictures.Load(settings.logoFile);
 }
 
 void SettingsStore::SaveCompanyLogo() {
     RewriteFile(disk, companyLogoFile, {RecordLine().Text(settings.logoFile)});
+    SaveLogoSettings();
+}
+
+void SettingsStore::DeleteCompanyLogo() {
+    disk.DeleteWithBackup(companyLogoFile);
 }
 
 void SettingsStore::LoadLogoSettings() {
     settings.logoWidth = defaultLogoSize;
     settings.logoHeight = defaultLogoSize;
-    if (!disk.FileExists(logoSettingsFile))
+    if (!disk.FileExists(logoSettingsFile)) {
+        SaveLogoSettings();
         return;
+    }
     disk.OpenForInput(logoSettingsFile);
     TextReader reader(disk);
     settings.logoWidth = LogoSize(reader.Single());
@@ -174,6 +178,8 @@ void SettingsStore::LoadLogoSettings() {
 }
 
 void SettingsStore::SaveLogoSettings() {
+    if (settings.logo.IsEmpty())
+        return;
     WriteRecordLines(disk, logoSettingsFile,
                      {RecordLine().Single(settings.logoWidth).Single(settings.logoHeight)});
 }
@@ -203,6 +209,9 @@ void SettingsStore::LoadDeliverySettings() {
     settings.ckDeliveryCharge = reader.Byte();
     settings.optPlain = reader.Boolean();
     settings.optReturn = reader.Boolean();
+    // The two are options of one choice: switching the second on switches the first off.
+    if (settings.optReturn)
+        settings.optPlain = false;
     for (QString& amount : settings.txtGradulated)
         amount = AmountBoxText(reader.Text());
     settings.txtDeliveryCharge =
@@ -256,6 +265,9 @@ void SettingsStore::LoadSettings() {
     settings.PromptsOn = reader.Boolean();
     settings.CallerIdOn = reader.Boolean();
     disk.CloseAllFiles();
+    // The modem was set up before this was known.
+    if (settings.CallerIdOn)
+        settings.lblCallid = true;
 }
 
 void SettingsStore::SaveSettings() {

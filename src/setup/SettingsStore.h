@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Picture.h"
 #include "setup/LiveSettings.h"
 #include "store/BasicDiskRoutines.h"
 
@@ -7,28 +8,30 @@
 /// file that is cut short or holds a value of the wrong type is a failure that stops the program.
 class SettingsStore {
 public:
-    SettingsStore(BasicDiskRoutines& diskRoutines, LiveSettings& liveSettings);
+    SettingsStore(BasicDiskRoutines& diskRoutines, LiveSettings& liveSettings,
+                  const PictureFiles& pictureFiles);
 
-    /// What creating the setup screen loads, in the order in which the files depend on each other:
-    /// the colour flag of PrintColors.txt is overruled by DeliverySettings.txt.
-    void LoadAll();
-
-    /// MyBusinessData.txt.
+    /// MyBusinessData.txt, into the business data and the boxes that show it. Saving takes the
+    /// boxes over.
     void LoadBusinessData();
     void SaveBusinessData();
     /// Prompts.txt. Saving is the only step that takes AlarmOn and PromptsOn from the check boxes.
     void LoadPrompts();
     void SavePrompts();
-    /// PrintColors.txt.
+    /// PrintColors.txt. Its colour flag is overruled when DeliverySettings.txt is loaded.
     void LoadPrintColors();
     void SavePrintColors();
     /// TaxSettings.txt.
     void LoadTaxSettings();
     void SaveTaxSettings();
-    /// CompanyLogo.txt.
+    /// CompanyLogo.txt and the picture that it names. A picture that has gone is no logo; a file
+    /// that is no picture is a failure of kind BadPicture. Saving writes the size as well.
     void LoadCompanyLogo();
     void SaveCompanyLogo();
-    /// LogoSettings.txt. A size over 2,880 twips is read as 1,440.
+    /// Deletes CompanyLogo.txt; the size stays on disk.
+    void DeleteCompanyLogo();
+    /// LogoSettings.txt. A size over 2,880 twips is read as 1,440. Without a logo there is nothing
+    /// to save.
     void LoadLogoSettings();
     void SaveLogoSettings();
     /// DeliverySettings.txt.
@@ -46,4 +49,5 @@ public:
 private:
     BasicDiskRoutines& disk;
     LiveSettings& settings;
+    const PictureFiles& pictures;
 };

@@ -140,11 +140,6 @@ void frmSplash::cmdContinue_Click() {
 void frmSplash::Image1_Click(int index) {
     if (index == 1)
         fraWelcome->hide();
-    if (Screens::IsBuilt(ScreenName::frmSetup)) {
-        screens.GoFrom(ScreenName::frmSplash, ScreenName::frmSetup);
-    } else {
-        screens.TellNotBuilt();
-        screens.GoFrom(ScreenName::frmSplash, ScreenName::frmStartup);
-    }
+    screens.GoFrom(ScreenName::frmSplash, ScreenName::frmSetup);
     screens.Destroy(ScreenName::frmSplash);
 }

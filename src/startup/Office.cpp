@@ -1,7 +1,10 @@
 #include "startup/Office.h"
 
 Office::Office(const QString& dataFolder, const Machine& theMachine)
-    : machine(theMachine), disk(dataFolder), settingsStore(disk, settings),
+    : machine(theMachine), disk(dataFolder), settingsStore(disk, settings, theMachine.pictures),
+      modem(disk, settings), setup(settingsStore, modem, settings, machine.user),
+      logo(settingsStore, settings, machine.pictures, commonDialog, machine.user),
+      printLook(settings, commonDialog, machine.user),
       calendar(disk, machine.user, settings.WorkWeek),
       slips(disk, calendar, settings, machine.clock, machine.user), fleet(disk), items(disk),
       board(disk, slips, calendar, settings, machine.clock, machine.user),

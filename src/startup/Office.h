@@ -2,26 +2,33 @@
 
 #include "platform/Clock.h"
 #include "platform/Operator.h"
+#include "platform/Picture.h"
 #include "platform/PrinterSurface.h"
 #include "platform/WebBrowser.h"
 #include "products/SalesItemLists.h"
 #include "schedule/DeliverySchedulePrinter.h"
 #include "schedule/PrinterRoutines.h"
 #include "schedule/ScheduleBoard.h"
+#include "setup/CommonDialog.h"
+#include "setup/CompanyLogo.h"
 #include "setup/LiveSettings.h"
+#include "setup/PrintLook.h"
 #include "setup/SettingsStore.h"
+#include "setup/SetupRoutines.h"
 #include "slips/DeliverySlipRoutines.h"
 #include "slips/VehicleFleet.h"
 #include "store/BasicDiskRoutines.h"
 #include "store/Calendar.h"
 #include "store/DeliveryTimes.h"
+#include "telephone/Modem.h"
 
-/// What the machine gives the rules: the date, the person, paper and browser.
+/// What the machine gives the rules: the date, the person, paper, browser and pictures.
 struct Machine {
     const Clock& clock;
     Operator& user;
     PrinterSurface& printer;
     WebBrowser& browser;
+    const PictureFiles& pictures;
 };
 
 /// All rule modules of one run, wired together on one data folder. Nothing here knows a screen.
@@ -32,7 +39,12 @@ public:
     Machine machine;
     BasicDiskRoutines disk;
     LiveSettings settings;
+    CommonDialog commonDialog;
     SettingsStore settingsStore;
+    Modem modem;
+    SetupRoutines setup;
+    CompanyLogo logo;
+    PrintLook printLook;
     Calendar calendar;
     DeliveryTimes deliveryTimes;
     DeliverySlipRoutines slips;

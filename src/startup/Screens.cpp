@@ -1,6 +1,7 @@
 #include "startup/Screens.h"
 
 #include "schedule/frmPrintSchedules.h"
+#include "setup/frmSetup.h"
 #include "setup/frmSplash.h"
 #include "startup/Office.h"
 #include "startup/frmStartup.h"
@@ -17,8 +18,15 @@ Screens::~Screens() {
 }
 
 bool Screens::IsBuilt(ScreenName name) {
-    return name == ScreenName::frmSplash || name == ScreenName::frmStartup ||
-           name == ScreenName::frmPrintSchedules;
+    switch (name) {
+    case ScreenName::frmSplash:
+    case ScreenName::frmStartup:
+    case ScreenName::frmSetup:
+    case ScreenName::frmPrintSchedules:
+        return true;
+    default:
+        return false;
+    }
 }
 
 std::unique_ptr<Screen> Screens::Make(ScreenName name) {
@@ -27,6 +35,8 @@ std::unique_ptr<Screen> Screens::Make(ScreenName name) {
         return std::make_unique<frmSplash>(office, *this);
     case ScreenName::frmStartup:
         return std::make_unique<frmStartup>(office, *this);
+    case ScreenName::frmSetup:
+        return std::make_unique<frmSetup>(office, *this);
     case ScreenName::frmPrintSchedules:
         return std::make_unique<frmPrintSchedules>(office, *this);
     default:

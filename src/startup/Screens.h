@@ -42,9 +42,6 @@ public:
     /// told so and stays where he is.
     void GoFrom(ScreenName from, ScreenName to);
 
-    static bool IsBuilt(ScreenName name);
-    /// Tells the operator that a routine is not in this version.
-    void TellNotBuilt();
     /// The screen, or nothing when it has not been made.
     Screen* Find(ScreenName name) const;
 
@@ -53,6 +50,9 @@ Q_SIGNALS:
     void ExitRequested();
 
 private:
+    static bool IsBuilt(ScreenName name);
+    /// Tells the operator that a routine is not in this version.
+    void TellNotBuilt();
     struct Loaded {
         ScreenName name;
         std::unique_ptr<Screen> screen;

@@ -27,7 +27,7 @@ bool CheckSingleInstance(const FolderLock& lock, Operator& user) {
 }
 
 void Main(Office& office, Screens& screens) {
-    office.settingsStore.LoadAll();
+    office.setup.LoadAll();
     screens.Create(ScreenName::frmSetup);
     screens.Show(ScreenName::frmSplash);
     Repaint(screens);

@@ -3,6 +3,7 @@
 #include "platform/ProgramTitle.h"
 #include "platform/RoutineLabel.h"
 #include "setup/WebPages.h"
+#include "setup/frmSetup.h"
 #include "startup/Manual.h"
 #include "startup/Office.h"
 #include "startup/Screens.h"
@@ -227,6 +228,8 @@ void frmStartup::cmdCancel_Click() {
 }
 
 void frmStartup::mnuCreate_Click() {
+    screens.Create(ScreenName::frmSetup);
+    static_cast<frmSetup*>(screens.Find(ScreenName::frmSetup))->SelectFirstTab();
     screens.GoFrom(ScreenName::frmStartup, ScreenName::frmSetup);
 }
 

@@ -1,25 +1,30 @@
 #!/usr/bin/env bash
-# A folder without data gets its folders and no file, and the title screen does not let the operator
+# A folder without data gets its folders and no file but the modem's, and the title screen does not let the operator
 # past its welcome panel: empty-folder-test.sh PROGRAM SAMPLEMAKER
 
 # shellcheck source=tests/endtoend/play.sh
 source "$(dirname "${BASH_SOURCE[0]}")/play.sh"
 
-expected='d  .
+# No telephone, the first port.
+phoneFile=$(printf '#FALSE#\r\n1\r\n' | sha256sum | cut -d ' ' -f 1)
+
+expected="d  .
 d  ./2026
 d  ./AuxFiles
 d  ./Backup
 d  ./Backup/NXActiveAccounts
 d  ./Backup/tessel-delivery
 d  ./NXActiveAccounts
+$phoneFile  ./Phone.txt
 d  ./Templates
 d  ./Templates/Deliveries
 d  ./TesselDelivery
 d  ./TesselDelivery/Deliveries
-d  ./TesselDelivery/DeliveryItems'
+d  ./TesselDelivery/DeliveryItems"
 
-ExpectFoldersOnly() {
-    printf '%s\n' "$expected" | LC_ALL=C sort -k 2 >"$dayFolder/expected.txt"
+# ExpectData [LINE]: with what the exit adds.
+ExpectData() {
+    printf '%s\n' "$expected" "$@" | LC_ALL=C sort -k 2 >"$dayFolder/expected.txt"
     Snapshot "$business" >"$dayFolder/actual.txt"
     ExpectSame "the data folder" "$dayFolder/expected.txt" "$dayFolder/actual.txt"
 }
@@ -46,7 +51,7 @@ StartPlay "$business"
 WaitForTitle
 # Until the bar has run through.
 sleep 1.5
-ExpectFoldersOnly
+ExpectData
 
 import -window "$titleWindow" "$dayFolder/before.png"
 Press "$titleWindow" Return
@@ -56,4 +61,4 @@ WaitForWelcomePanel
 Press "$titleWindow" alt+F4
 WaitForEnd
 [[ $programStatus -eq 0 ]] || FailDay "the program ended with status $programStatus."
-ExpectFoldersOnly
+ExpectData "$phoneFile  ./Backup/Phone.txt"

@@ -40,7 +40,7 @@ DoTheDayByHand() {
     # The board shows the first invoice number of the year, which begins the counter.
     printf '20260001\r\n' >"$folder/NXInvoiceNo.txt"
     # Of the exit's list, what the sample business has.
-    for name in CustomerData LogoSettings MyBusinessData PrintColors; do
+    for name in CustomerData MyBusinessData Phone PrintColors; do
         cp "$folder/$name.txt" "$folder/Backup"
     done
 }

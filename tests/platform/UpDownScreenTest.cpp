@@ -18,7 +18,7 @@ protected:
 
     QToolButton* Button(const QString& name) { return upDown.findChild<QToolButton*>(name); }
 
-    UpDown upDown{u"UpDown1"_s, u"day"_s};
+    UpDown upDown{u"UpDown1"_s, u"Previous day"_s, u"Next day"_s};
     int steps = 0;
 };
 

@@ -20,6 +20,9 @@ public:
     std::optional<QString> InputBox(const QString&, const QString&, const QString&) override {
         return {};
     }
+    std::optional<QString> AskForFile(const QString&) override { return {}; }
+    std::optional<quint32> AskForColor(quint32) override { return {}; }
+    std::optional<QString> AskForFont(const QString&) override { return {}; }
     void Beep() override { Heard += u"Beep"_s; }
     void ShowBusy(bool) override {}
 };

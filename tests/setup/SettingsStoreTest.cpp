@@ -100,15 +100,15 @@ protected:
     /// A program's start as far as the settings are concerned.
     void Restart() {
         live = LiveSettings();
-        store.LoadAll();
+        office.setup.LoadAll();
         store.LoadSettings();
     }
 
     /// Values that are the default nowhere, the same as in the files above.
     void SetEverything() {
-        live.BusinessData = {u"Corner Dairy"_s, u"12 Mill Road"_s, QString(),
-                             u"Springfield"_s,  u"IL"_s,           u"62704"_s,
-                             u"217-555-0199"_s, QString(),         u"FEIN 00-0000000"_s};
+        live.txtBusiness = {u"Corner Dairy"_s, u"12 Mill Road"_s, QString(),
+                            u"Springfield"_s,  u"IL"_s,           u"62704"_s,
+                            u"217-555-0199"_s, QString(),         u"FEIN 00-0000000"_s};
         live.ReservedSetting = 9;
         live.WorkWeek = 61;
         live.AlarmOn = false;
@@ -138,6 +138,7 @@ protected:
         live.PrintInColorFlag = false;
         live.PrintCopies = 2;
         live.logoFile = u"/home/dairy/Logo, gr\u00fcn.bmp"_s;
+        live.logo = {nullptr, 1500, 1500};
         live.logoWidth = 1500.5F;
         live.logoHeight = 2880;
     }
@@ -226,7 +227,7 @@ TEST_F(SettingsStoreTest, MissingFilesPutTheirDefaultsInThePlaceOfWhatWasThere) 
     SetEverything();
     live.shownWorkWeek = 62;
     live.CurrentPrintColor = 0xff0000;
-    store.LoadAll();
+    office.setup.LoadAll();
     ExpectDefaults();
     // Settings.txt is no part of what the setup screen loads.
     EXPECT_EQ(live.ReservedSetting, 9);
@@ -275,7 +276,7 @@ TEST_F(SettingsStoreTest, DefaultsAreSavedAsTheyStand) {
     EXPECT_EQ(folder.Read(u"Prompts.txt"_s), "#TRUE#,#TRUE#\r\n");
     EXPECT_EQ(folder.Read(u"WorkDays.txt"_s), "5\r\n");
     EXPECT_EQ(folder.Read(u"CompanyLogo.txt"_s), "\"\"\r\n");
-    EXPECT_EQ(folder.Read(u"LogoSettings.txt"_s), "1440,1440\r\n");
+    EXPECT_FALSE(folder.Has(u"LogoSettings.txt"_s));
 }
 
 TEST_F(SettingsStoreTest, EveryFieldIsReadIntoItsValue) {
@@ -617,13 +618,13 @@ TEST_F(SettingsStoreTest, ColourFlagIsOverruledByTheDeliverySettings) {
     folder.Write(printColors.name, "0\r\n0\r\n\"Arial\"\r\n#TRUE#\r\n3\r\n");
     Load(printColors);
     EXPECT_EQ(live.ckColor, 1);
-    store.LoadAll();
+    office.setup.LoadAll();
     EXPECT_EQ(live.ckColor, 0);
     folder.Write(printColors.name, "0\r\n0\r\n\"Arial\"\r\n#FALSE#\r\n3\r\n");
     folder.Write(deliverySettings.name, deliverySettings.Bytes());
     Load(printColors);
     EXPECT_EQ(live.ckColor, 0);
-    store.LoadAll();
+    office.setup.LoadAll();
     EXPECT_EQ(live.ckColor, 1);
 }
 
@@ -748,7 +749,7 @@ TEST_F(SettingsStoreTest, AmountBeyondTheCurrencyRangeFailsByName) {
 }
 
 TEST_F(SettingsStoreTest, BusinessDataIsTakenAsItStands) {
-    live.BusinessData[0] = u" Gr\u00fcn, Wei\u00df & Co \u20ac \u4e2d "_s;
+    live.txtBusiness[0] = u" Gr\u00fcn, Wei\u00df & Co \u20ac \u4e2d "_s;
     Save(businessData);
     EXPECT_EQ(folder.Read(businessData.name), "\" Gr\xfcn, Wei\xdf & Co \x80 ? \",\"\",\"\",\"\","
                                               "\"\",\"\",\"\",\"\",\"\"\r\n");
@@ -757,7 +758,7 @@ TEST_F(SettingsStoreTest, BusinessDataIsTakenAsItStands) {
 }
 
 TEST_F(SettingsStoreTest, QuoteInABusinessTextIsWrittenAsItIsAndShiftsTheFieldsOnReading) {
-    live.BusinessData = {
+    live.txtBusiness = {
         u"12\" Pipes"_s, u"1 Quarry Road"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s,
         u"8"_s};
     Save(businessData);

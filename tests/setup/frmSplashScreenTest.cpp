@@ -82,22 +82,18 @@ TEST_F(SplashScreen, ContinueOnASetUpSystemShowsTheMenuAndDestroysTheTitle) {
     EXPECT_EQ(screens.Find(splash), nullptr);
 }
 
-TEST_F(SplashScreen, PictureLeadsToSetupOrForNowToTheMenu) {
-    WriteMasterFiles();
+TEST_F(SplashScreen, PictureLeadsToSetup) {
     screens.Show(splash);
-    user.ExpectMessage(u"This routine is not part of this version yet."_s);
     Click(splash, u"Image1(0)"_s);
-    EXPECT_TRUE(IsShown(ScreenName::frmStartup));
+    EXPECT_TRUE(IsShown(ScreenName::frmSetup));
     EXPECT_EQ(screens.Find(splash), nullptr);
 }
 
 TEST_F(SplashScreen, PictureOfTheWelcomePanelLeadsTheSameWay) {
-    WriteMasterFiles();
     screens.Show(splash);
     Click(splash, u"cmdContinue"_s);
-    user.ExpectMessage(u"This routine is not part of this version yet."_s);
     Click(splash, u"Image1(1)"_s);
-    EXPECT_TRUE(IsShown(ScreenName::frmStartup));
+    EXPECT_TRUE(IsShown(ScreenName::frmSetup));
     EXPECT_EQ(screens.Find(splash), nullptr);
 }
 

@@ -29,8 +29,8 @@ protected:
     /// What the start does about past slips, with No as the answer to every question.
     void StartOn(QDate today, const QStringList& deletedDates) {
         clock.Date = today;
-        Office business(yard, {clock, user, printer, browser});
-        business.settingsStore.LoadAll();
+        Office business(yard, {clock, user, printer, browser, pictures});
+        business.setup.LoadAll();
         business.settingsStore.LoadSettings();
         for (int i = 0; i < 3; ++i) {
             user.ExpectQuestion(u"Would you like to DELETE the Recurring Slip?"_s,

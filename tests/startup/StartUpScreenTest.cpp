@@ -51,7 +51,7 @@ protected:
     }
 };
 
-TEST_F(StartUpSequence, EmptyFolderGetsItsFoldersAndNoFile) {
+TEST_F(StartUpSequence, EmptyFolderGetsItsFoldersAndNoFileButTheModemsPort) {
     Main(office, screens);
     const QStringList folders = {u"2026/"_s,
                                  u"AuxFiles/"_s,
@@ -59,6 +59,7 @@ TEST_F(StartUpSequence, EmptyFolderGetsItsFoldersAndNoFile) {
                                  u"Backup/NXActiveAccounts/"_s,
                                  u"Backup/tessel-delivery/"_s,
                                  u"NXActiveAccounts/"_s,
+                                 u"Phone.txt"_s,
                                  u"Templates/"_s,
                                  u"Templates/Deliveries/"_s,
                                  u"TesselDelivery/"_s,
@@ -122,7 +123,7 @@ TEST_F(StartUpSequence, ItemFilesLostButInBackupAreBroughtBackAndLoaded) {
 TEST_F(StartUpSequence, QuestionsComeOverTheTitleScreenBehindTheBoardAndBeforeTheMenuIsMade) {
     WriteSlip(folder, {.number = u"7"_s, .date = u"3/6/2026"_s, .recurring = u"False"_s});
     WatchingOperator watcher;
-    Office watched(folder.Path(), {clock, watcher, printer, browser});
+    Office watched(folder.Path(), {clock, watcher, printer, browser, pictures});
     Screens itsScreens(watched);
     watcher.Watched = &itsScreens;
     watcher.ExpectMessage(u"Delivery Slip 7 scheduled for 3/6/2026 has been Deleted"_s);
@@ -136,27 +137,29 @@ TEST_F(StartUpSequence, BrokenSettingsFileStopsBeforeAnyFolderIsMade) {
     TestFolder bare;
     bare.Write(u"Settings.txt"_s, "8\r\n");
     bare.Write(u"TaxSettings.txt"_s, "\"Sales Tax\"\r\n");
-    Office stopped(bare.Path(), {clock, user, printer, browser});
+    Office stopped(bare.Path(), {clock, user, printer, browser, pictures});
     Screens itsScreens(stopped);
     const RuntimeFailure failure = FailureOf([&] { Main(stopped, itsScreens); });
     EXPECT_EQ(failure.Kind(), FailureKind::ReadPastEnd);
     EXPECT_TRUE(failure.Sentence().contains(u"TaxSettings.txt"_s));
-    EXPECT_EQ(bare.Everything(), (QStringList{u"Settings.txt"_s, u"TaxSettings.txt"_s}));
+    EXPECT_EQ(bare.Everything(),
+              (QStringList{u"Phone.txt"_s, u"Settings.txt"_s, u"TaxSettings.txt"_s}));
 }
 
 TEST_F(StartUpSequence, CutSettingsFileStopsBehindTheFoldersAndBeforeTheBoardIsMade) {
     TestFolder bare;
     bare.Write(u"Settings.txt"_s, "8\r\n");
-    Office stopped(bare.Path(), {clock, user, printer, browser});
+    Office stopped(bare.Path(), {clock, user, printer, browser, pictures});
     Screens itsScreens(stopped);
     const RuntimeFailure failure = FailureOf([&] { Main(stopped, itsScreens); });
     EXPECT_EQ(failure.Kind(), FailureKind::ReadPastEnd);
     EXPECT_TRUE(failure.Sentence().contains(u"Settings.txt"_s)) << failure.what();
     EXPECT_EQ(bare.Everything(),
               (QStringList{u"2026/"_s, u"AuxFiles/"_s, u"Backup/"_s, u"Backup/NXActiveAccounts/"_s,
-                           u"Backup/tessel-delivery/"_s, u"NXActiveAccounts/"_s, u"Settings.txt"_s,
-                           u"Templates/"_s, u"Templates/Deliveries/"_s, u"TesselDelivery/"_s,
-                           u"TesselDelivery/Deliveries/"_s, u"TesselDelivery/DeliveryItems/"_s}));
+                           u"Backup/tessel-delivery/"_s, u"NXActiveAccounts/"_s, u"Phone.txt"_s,
+                           u"Settings.txt"_s, u"Templates/"_s, u"Templates/Deliveries/"_s,
+                           u"TesselDelivery/"_s, u"TesselDelivery/Deliveries/"_s,
+                           u"TesselDelivery/DeliveryItems/"_s}));
     EXPECT_TRUE(itsScreens.Find(ScreenName::frmSplash)->isVisible());
     EXPECT_EQ(itsScreens.Find(ScreenName::frmPrintSchedules), nullptr);
 }
@@ -164,7 +167,7 @@ TEST_F(StartUpSequence, CutSettingsFileStopsBehindTheFoldersAndBeforeTheBoardIsM
 TEST_F(StartUpSequence, FileInTheWayOfTheSlipFoldersStopsUnderTheTitleScreen) {
     TestFolder bare;
     bare.Write(u"TesselDelivery"_s, "a file");
-    Office stopped(bare.Path(), {clock, user, printer, browser});
+    Office stopped(bare.Path(), {clock, user, printer, browser, pictures});
     Screens itsScreens(stopped);
     const RuntimeFailure failure = FailureOf([&] { Main(stopped, itsScreens); });
     EXPECT_EQ(failure.Kind(), FailureKind::PathNotFound);

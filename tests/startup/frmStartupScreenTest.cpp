@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QMenu>
+#include <QTabWidget>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
@@ -187,12 +188,15 @@ TEST_F(StartupScreen, EnterOnAFocusedButtonClicksIt) {
     EXPECT_EQ(office.MenuChoice, 8);
 }
 
-TEST_F(StartupScreen, CreateItemLeavesTheOperatorOnTheMenu) {
+TEST_F(StartupScreen, CreateItemShowsTheSetupScreenOnItsFirstTabAndHidesTheMenu) {
     WriteMasterFiles();
+    screens.Create(ScreenName::frmSetup);
+    Find<QTabWidget>(ScreenName::frmSetup, u"tabInfo"_s)->setCurrentIndex(3);
     screens.Show(menu);
-    user.ExpectMessage(notBuilt);
     Trigger(u"mnuCreate"_s);
-    EXPECT_TRUE(IsShown(menu));
+    EXPECT_TRUE(IsShown(ScreenName::frmSetup));
+    EXPECT_EQ(Find<QTabWidget>(ScreenName::frmSetup, u"tabInfo"_s)->currentIndex(), 0);
+    EXPECT_FALSE(IsShown(menu));
 }
 
 TEST_F(StartupScreen, ClickOnARoutineHidesTheMenuAndShowsItsScreen) {

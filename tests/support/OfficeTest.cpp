@@ -5,10 +5,10 @@
 
 #include <QLocale>
 
-OfficeTest::OfficeTest() : office(folder.Path(), {clock, user, printer, browser}) {
+OfficeTest::OfficeTest() : office(folder.Path(), {clock, user, printer, browser, pictures}) {
     UseLocale("en_US");
     CreateFolders(office.disk, clock);
-    office.settingsStore.LoadAll();
+    office.setup.LoadAll();
 }
 
 void OfficeTest::UseLocale(const char* name) const {

@@ -4,6 +4,7 @@
 #include "platform/RuntimeFailure.h"
 #include "platform/WebBrowser.h"
 #include "startup/Office.h"
+#include "support/FakePictures.h"
 #include "support/RecordingPrinter.h"
 #include "support/ScriptedOperator.h"
 #include "support/TestFolder.h"
@@ -40,6 +41,7 @@ protected:
     ScriptedOperator user;
     RecordingPrinter printer;
     RecordingBrowser browser;
+    FakePictures pictures;
     Office office;
 };
 

@@ -31,15 +31,20 @@ double RecordingPrinter::TextHeight(const QString&) {
 }
 
 void RecordingPrinter::Line(double x1, double y1, double x2, double y2, quint32 color) {
-    Lines.push_back({page, x1, y1, x2, y2, color});
+    Lines.push_back({page, x1, y1, x2, y2, color, DrawWidth});
 }
 
 void RecordingPrinter::Box(double x1, double y1, double x2, double y2, quint32 color) {
-    Boxes.push_back({page, x1, y1, x2, y2, color});
+    Boxes.push_back({page, x1, y1, x2, y2, color, DrawWidth});
 }
 
 void RecordingPrinter::FillBox(double x1, double y1, double x2, double y2, quint32 color) {
-    FilledBoxes.push_back({page, x1, y1, x2, y2, color});
+    FilledBoxes.push_back({page, x1, y1, x2, y2, color, DrawWidth});
+}
+
+void RecordingPrinter::PaintPicture(const Picture&, double x, double y, double width,
+                                    double height) {
+    Pictures.push_back({page, x, y, width, height});
 }
 
 void RecordingPrinter::NewPage() {

@@ -26,12 +26,18 @@ public:
         int page;
         double x1, y1, x2, y2;
         quint32 color;
+        int drawWidth;
+    };
+    struct PaintedPicture {
+        int page;
+        double x, y, width, height;
     };
 
     std::vector<Text> Texts;
     std::vector<Stroke> Lines;
     std::vector<Stroke> Boxes;
     std::vector<Stroke> FilledBoxes;
+    std::vector<PaintedPicture> Pictures;
     std::vector<Orientation> Orientations;
     std::vector<bool> Colors;
     int Jobs = 0;
@@ -55,6 +61,8 @@ public:
     void Line(double x1, double y1, double x2, double y2, quint32 color) override;
     void Box(double x1, double y1, double x2, double y2, quint32 color) override;
     void FillBox(double x1, double y1, double x2, double y2, quint32 color) override;
+    void PaintPicture(const Picture& picture, double x, double y, double width,
+                      double height) override;
     void NewPage() override;
     void EndJob() override;
     void AbandonJob() override;

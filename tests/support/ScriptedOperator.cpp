@@ -16,10 +16,49 @@ void ScriptedOperator::ExpectQuestion(const QString& text, const QString& title,
     script.push_back({text, Buttons::YesNo, title, answer});
 }
 
+void ScriptedOperator::ExpectFileDialog(const QString& filter, const std::optional<QString>& path) {
+    fileDialogs.push_back({filter, path});
+}
+
+void ScriptedOperator::ExpectColorDialog(quint32 color, std::optional<quint32> answer) {
+    colorDialogs.push_back({color, answer});
+}
+
+void ScriptedOperator::ExpectFontDialog(const QString& name, const std::optional<QString>& answer) {
+    fontDialogs.push_back({name, answer});
+}
+
 void ScriptedOperator::ExpectNothingLeft() {
     for (const Line& line : script)
         ADD_FAILURE() << "This message never came: " << line.text.toStdString();
     script.clear();
+    EXPECT_TRUE(fileDialogs.empty() && colorDialogs.empty() && fontDialogs.empty())
+        << "A dialog never came.";
+}
+
+template <typename Value>
+std::optional<Value> ScriptedOperator::AnswerOf(std::deque<Dialog<Value>>& dialogs,
+                                                const Value& opened) {
+    if (dialogs.empty()) {
+        ADD_FAILURE() << "A dialog too many.";
+        return {};
+    }
+    const Dialog<Value> dialog = dialogs.front();
+    dialogs.pop_front();
+    EXPECT_EQ(opened, dialog.opened);
+    return dialog.answer;
+}
+
+std::optional<QString> ScriptedOperator::AskForFile(const QString& filter) {
+    return AnswerOf(fileDialogs, filter);
+}
+
+std::optional<quint32> ScriptedOperator::AskForColor(quint32 color) {
+    return AnswerOf(colorDialogs, color);
+}
+
+std::optional<QString> ScriptedOperator::AskForFont(const QString& name) {
+    return AnswerOf(fontDialogs, name);
 }
 
 Answer ScriptedOperator::MsgBox(const QString& text, Buttons buttons, const QString& title) {

@@ -16,6 +16,12 @@ public:
     void ExpectMessage(const QString& text, const QString& title = {});
     void ExpectQuestion(const QString& text, const QString& title, Answer answer);
 
+    /// The next file, colour or font dialog, with what it is opened with and its answer; nothing
+    /// stands for Cancel.
+    void ExpectFileDialog(const QString& filter, const std::optional<QString>& path);
+    void ExpectColorDialog(quint32 color, std::optional<quint32> answer);
+    void ExpectFontDialog(const QString& name, const std::optional<QString>& answer);
+
     /// Fails the test when a message of the script has not come yet.
     void ExpectNothingLeft();
 
@@ -26,6 +32,9 @@ public:
     Answer MsgBox(const QString& text, Buttons buttons, const QString& title) override;
     std::optional<QString> InputBox(const QString& prompt, const QString& title,
                                     const QString& proposal) override;
+    std::optional<QString> AskForFile(const QString& filter) override;
+    std::optional<quint32> AskForColor(quint32 color) override;
+    std::optional<QString> AskForFont(const QString& name) override;
     void Beep() override;
     void ShowBusy(bool busy) override;
 
@@ -36,5 +45,16 @@ private:
         QString title;
         Answer answer;
     };
+    template <typename Value>
+    struct Dialog {
+        Value opened;
+        std::optional<Value> answer;
+    };
+    template <typename Value>
+    static std::optional<Value> AnswerOf(std::deque<Dialog<Value>>& dialogs, const Value& opened);
+
     std::deque<Line> script;
+    std::deque<Dialog<QString>> fileDialogs;
+    std::deque<Dialog<quint32>> colorDialogs;
+    std::deque<Dialog<QString>> fontDialogs;
 };

@@ -1,0 +1,6 @@
+#pragma once
+
+class QWidget;
+
+/// The setup screen's tab of fixed help.
+QWidget* MakeSetupHelpTab();
