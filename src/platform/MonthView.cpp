@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QTextCharFormat>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -41,6 +42,9 @@ MonthView::MonthView(QWidget* parent) : QCalendarWidget(parent) {
     plain.setForeground(Theme::Current().text);
     for (const auto day : {Qt::Saturday, Qt::Sunday})
         setWeekdayTextFormat(day, plain);
+    // The toolkit's own arrows are coloured pictures.
+    findChild<QToolButton*>(u"qt_calendar_prevmonth"_s)->setArrowType(Qt::LeftArrow);
+    findChild<QToolButton*>(u"qt_calendar_nextmonth"_s)->setArrowType(Qt::RightArrow);
 
     auto* days = findChild<QAbstractItemView*>(u"qt_calendar_calendarview"_s);
     days->installEventFilter(this);
@@ -58,6 +62,8 @@ void MonthView::MarkDates(const QList<QDate>& dates) {
     QTextCharFormat marked;
     marked.setBackground(Theme::Current().selectedRow);
     marked.setForeground(Theme::Current().selectedRowText);
+    // The weight still shows on the selected day, which has a colour of its own.
+    marked.setFontWeight(QFont::Bold);
     for (const QDate date : dates)
         setDateTextFormat(date, marked);
 }

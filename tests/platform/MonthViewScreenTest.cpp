@@ -57,8 +57,8 @@ TEST_F(MonthViewTest, DoubleClickIsTwoClicks) {
     QWidget* viewport = DaysOf(view)->viewport();
     QTest::mouseClick(viewport, Qt::LeftButton, {}, place);
     QTest::mouseDClick(viewport, Qt::LeftButton, {}, place);
-    // The toolkit's double click is a click with another press and release behind it.
-    EXPECT_EQ(told, (QList<QDate>{{2026, 3, 17}, {2026, 3, 17}, {2026, 3, 17}}));
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, place);
+    EXPECT_EQ(told, (QList<QDate>{{2026, 3, 17}, {2026, 3, 17}}));
 }
 
 TEST_F(MonthViewTest, RightClickIsNotTold) {
