@@ -50,6 +50,7 @@ MonthView::MonthView(QWidget* parent) : QCalendarWidget(parent) {
     days->installEventFilter(this);
     days->viewport()->installEventFilter(this);
     connect(this, &QCalendarWidget::clicked, this, &MonthView::DateClick);
+    connect(this, &QCalendarWidget::currentPageChanged, this, [this] { hasTurned = true; });
 }
 
 void MonthView::SetDate(QDate date) {
@@ -73,8 +74,12 @@ bool MonthView::eventFilter(QObject* watched, QEvent* event) {
         Q_EMIT DateClick(selectedDate());
         return true;
     }
+    if (event->type() == QEvent::MouseButtonPress)
+        hasTurned = false;
     if (event->type() == QEvent::MouseButtonDblClick) {
-        SendAsPress(watched, *static_cast<QMouseEvent*>(event));
+        // Another day has come under the pointer with the other month; nobody meant that one.
+        if (!hasTurned)
+            SendAsPress(watched, *static_cast<QMouseEvent*>(event));
         return true;
     }
     return QCalendarWidget::eventFilter(watched, event);

@@ -3,8 +3,8 @@
 #include <QCalendarWidget>
 
 /// A calendar that shows a month and tells of each day that is clicked: also of the selected one,
-/// of one in the month before or after, and of a click right after another. Enter and the blank are
-/// the keyboard's click on the selected day.
+/// of one in the month before or after, and of both clicks of a double click. Enter and the blank
+/// are the keyboard's click on the selected day.
 class MonthView : public QCalendarWidget {
     Q_OBJECT
 
@@ -20,4 +20,8 @@ public:
 
 Q_SIGNALS:
     void DateClick(QDate date);
+
+private:
+    /// Whether another month has come up since the last press of the mouse.
+    bool hasTurned = false;
 };

@@ -117,7 +117,9 @@ void HolidayList::Redo() {
 
 QList<QDate> HolidayList::Days() const {
     QList<QDate> days;
-    for (const QString& entry : lstHolidays.stringList())
-        days += EntryDate(entry).date();
+    for (const QString& entry : lstHolidays.stringList()) {
+        if (IsDate(entry))
+            days += ToDate(entry);
+    }
     return days;
 }

@@ -32,7 +32,7 @@ public:
     /// Asks, then empties the list and deletes Holidays.txt at once, without waiting for a save.
     void Redo();
 
-    /// The days of the list, in its order.
+    /// The days that the list blocks, in its order.
     QList<QDate> Days() const;
 
 private:

@@ -20,6 +20,15 @@ protected:
 
     void Press(Qt::Key key) { QTest::keyClick(DaysOf(view), key); }
 
+    /// All events that a double click brings.
+    void DoubleClick(QDate date) {
+        const QPoint place = PlaceOf(view, date);
+        QWidget* viewport = DaysOf(view)->viewport();
+        QTest::mouseClick(viewport, Qt::LeftButton, {}, place);
+        QTest::mouseDClick(viewport, Qt::LeftButton, {}, place);
+        QTest::mouseRelease(viewport, Qt::LeftButton, {}, place);
+    }
+
     MonthView view;
     QList<QDate> told;
 };
@@ -53,12 +62,16 @@ TEST_F(MonthViewTest, ClickOnADayOfTheMonthBesideIsTold) {
 }
 
 TEST_F(MonthViewTest, DoubleClickIsTwoClicks) {
-    const QPoint place = PlaceOf(view, {2026, 3, 17});
-    QWidget* viewport = DaysOf(view)->viewport();
-    QTest::mouseClick(viewport, Qt::LeftButton, {}, place);
-    QTest::mouseDClick(viewport, Qt::LeftButton, {}, place);
-    QTest::mouseRelease(viewport, Qt::LeftButton, {}, place);
+    DoubleClick({2026, 3, 17});
     EXPECT_EQ(told, (QList<QDate>{{2026, 3, 17}, {2026, 3, 17}}));
+}
+
+TEST_F(MonthViewTest, DoubleClickThatTurnsTheMonthIsOneClick) {
+    DoubleClick({2026, 4, 2});
+    EXPECT_EQ(told, QList<QDate>{QDate(2026, 4, 2)});
+    EXPECT_EQ(view.monthShown(), 4);
+    DoubleClick({2026, 4, 7});
+    EXPECT_EQ(told, (QList<QDate>{{2026, 4, 2}, {2026, 4, 7}, {2026, 4, 7}}));
 }
 
 TEST_F(MonthViewTest, RightClickIsNotTold) {

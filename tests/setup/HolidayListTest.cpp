@@ -132,7 +132,7 @@ TEST_F(HolidayListTest, DateWithTimeOfDayKeepsItAndIsNoHolidayOfThatDay) {
     user.ExpectMessage(u"The Holiday List has been Saved"_s);
     holidays.Save();
     EXPECT_EQ(folder.Read(holidaysFile), bytes + "#2026-12-25#\r\n");
-    EXPECT_EQ(holidays.Days(), (QList<QDate>{{2026, 12, 25}, {2026, 3, 9}, {2026, 12, 25}}));
+    EXPECT_EQ(holidays.Days(), QList<QDate>{QDate(2026, 12, 25)});
 }
 
 TEST_F(HolidayListTest, DateWithTimeOfDaySurvivesInEveryDateForm) {
@@ -140,7 +140,7 @@ TEST_F(HolidayListTest, DateWithTimeOfDaySurvivesInEveryDateForm) {
         UseLocale(name);
         OpenOn("#2026-12-25 18:05:09#\r\n#2026-12-05#\r\n");
         EXPECT_EQ(folder.Read(holidaysFile), "#2026-12-25 18:05:09#\r\n#2026-12-05#\r\n") << name;
-        EXPECT_EQ(holidays.Days(), (QList<QDate>{{2026, 12, 25}, {2026, 12, 5}})) << name;
+        EXPECT_EQ(holidays.Days(), QList<QDate>{QDate(2026, 12, 5)}) << name;
     }
 }
 

@@ -131,6 +131,18 @@ TEST_F(HolidaysScreen, KeyboardMarksADay) {
     EXPECT_EQ(user.Beeps, 1);
 }
 
+TEST_F(HolidaysScreen, TabGoesFromTheCalendarToTheListAndTheButtons) {
+    screens.Show(holidays);
+    Screen* screen = screens.Find(holidays);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(screen));
+    QStringList visited;
+    for (int i = 0; i < 4; ++i) {
+        Press(screen->focusWidget(), Qt::Key_Tab);
+        visited += screen->focusWidget()->objectName();
+    }
+    EXPECT_EQ(visited, (QStringList{u"lstHolidays"_s, toMenu, redo, save}));
+}
+
 TEST_F(HolidaysScreen, ListedDatesAreTintedInTheCalendar) {
     ShowWith("#2026-12-25#\r\n");
     const auto isTinted = [this](QDate date) {
