@@ -1,13 +1,12 @@
 #include "platform/DatePicker.h"
 
+#include "platform/MonthView.h"
 #include "platform/RegionalFormats.h"
 #include "platform/Theme.h"
 
 #include <QAction>
-#include <QCalendarWidget>
 #include <QKeyEvent>
 #include <QScreen>
-#include <QTextCharFormat>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -15,8 +14,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int iconSize = 28;
-constexpr double calendarWidth = 18;
-constexpr double calendarHeight = 14;
 
 QPoint WithinDesktop(const QWidget& field, QSize size) {
     const QRect desktop = field.screen()->availableGeometry();
@@ -25,21 +22,6 @@ QPoint WithinDesktop(const QWidget& field, QSize size) {
         place.setY(field.mapToGlobal(QPoint()).y() - size.height());
     place.setX(qBound(desktop.left(), place.x(), desktop.right() - size.width()));
     return place;
-}
-
-QCalendarWidget* MakeCalendar(QDate date) {
-    auto* calendar = new QCalendarWidget;
-    calendar->setObjectName(u"calendar"_s);
-    calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    calendar->setSelectedDate(date);
-    // The toolkit's own size leaves no room for the months.
-    calendar->setMinimumSize(Em(calendarWidth), Em(calendarHeight));
-    // Which days are work days is the business's own matter; the toolkit's red Sunday is not.
-    QTextCharFormat plain;
-    plain.setForeground(Theme::Current().text);
-    for (const auto day : {Qt::Saturday, Qt::Sunday})
-        calendar->setWeekdayTextFormat(day, plain);
-    return calendar;
 }
 
 } // namespace
@@ -95,16 +77,16 @@ void DatePicker::OpenCalendar() {
     auto* popup = new QFrame(this, Qt::Popup);
     popup->setAttribute(Qt::WA_DeleteOnClose);
     popup->setProperty("card", true);
-    auto* calendar = MakeCalendar(date);
+    auto* calendar = new MonthView;
+    calendar->setObjectName(u"calendar"_s);
+    calendar->SetDate(date);
     auto* rows = new QVBoxLayout(popup);
     rows->setContentsMargins(1, 1, 1, 1);
     rows->addWidget(calendar);
-    const auto pick = [this, popup](QDate picked) {
+    connect(calendar, &MonthView::DateClick, this, [this, popup](QDate picked) {
         popup->close();
         Enter(picked);
-    };
-    connect(calendar, &QCalendarWidget::clicked, this, pick);
-    connect(calendar, &QCalendarWidget::activated, this, pick);
+    });
     popup->move(WithinDesktop(*this, popup->sizeHint()));
     popup->show();
     calendar->setFocus();

@@ -1,6 +1,7 @@
 #include "startup/Screens.h"
 
 #include "schedule/frmPrintSchedules.h"
+#include "setup/frmHolidays.h"
 #include "setup/frmSetup.h"
 #include "setup/frmSplash.h"
 #include "startup/Office.h"
@@ -23,6 +24,7 @@ bool Screens::IsBuilt(ScreenName name) {
     case ScreenName::frmStartup:
     case ScreenName::frmSetup:
     case ScreenName::frmPrintSchedules:
+    case ScreenName::frmHolidays:
         return true;
     default:
         return false;
@@ -39,6 +41,8 @@ std::unique_ptr<Screen> Screens::Make(ScreenName name) {
         return std::make_unique<frmSetup>(office, *this);
     case ScreenName::frmPrintSchedules:
         return std::make_unique<frmPrintSchedules>(office, *this);
+    case ScreenName::frmHolidays:
+        return std::make_unique<frmHolidays>(office, *this);
     default:
         return nullptr;
     }

@@ -13,6 +13,9 @@ namespace {
 
 constexpr QByteArrayView lineEnd = "\r\n";
 
+constexpr QStringView dateForm = u"#yyyy-MM-dd#";
+constexpr QStringView dateAndTimeForm = u"#yyyy-MM-dd hh:mm:ss#";
+
 RuntimeFailure PastEnd(const BasicDiskRoutines::Input& input) {
     return {FailureKind::ReadPastEnd,
             u"Reading %1 failed: the file ends before all of its values were read."_s.arg(
@@ -57,10 +60,6 @@ QByteArray BareField(BasicDiskRoutines::Input& input) {
     input.position = end;
     SkipSeparator(input);
     return field;
-}
-
-QString DateField(QDate date) {
-    return u'#' + date.toString(u"yyyy-MM-dd") + u'#';
 }
 
 } // namespace
@@ -226,7 +225,12 @@ RecordLine& RecordLine::Boolean(bool value) {
 }
 
 RecordLine& RecordLine::Date(QDate date) {
-    return Add(DateField(date).toLatin1());
+    return Date(date.startOfDay(Qt::UTC));
+}
+
+RecordLine& RecordLine::Date(const QDateTime& value) {
+    const bool isMidnight = value.time() == QTime(0, 0);
+    return Add(value.toString(isMidnight ? dateForm : dateAndTimeForm).toLatin1());
 }
 
 TextWriter::TextWriter(BasicDiskRoutines& disk) : TextWriter(disk, disk.DiskFile) {}

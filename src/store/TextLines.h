@@ -61,6 +61,8 @@ public:
     RecordLine& Single(float value);
     RecordLine& Boolean(bool value);
     RecordLine& Date(QDate date);
+    /// The time of day is written only when it isn't midnight.
+    RecordLine& Date(const QDateTime& value);
 
     const QByteArray& Bytes() const { return bytes; }
 

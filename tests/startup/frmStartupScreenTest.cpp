@@ -212,7 +212,7 @@ TEST_F(StartupScreen, ClickOnARoutineHidesTheMenuAndShowsItsScreen) {
 TEST_F(StartupScreen, RoutineWithoutAScreenLeavesTheOperatorOnTheMenu) {
     WriteMasterFiles();
     screens.Show(menu);
-    for (int i = 1; i < 10; ++i) {
+    for (const int i : {1, 2, 4, 5, 6, 7, 8, 9}) {
         user.ExpectMessage(notBuilt);
         Click(menu, u"lblSub(%1)"_s.arg(i));
         EXPECT_EQ(office.MenuChoice, i);

@@ -76,6 +76,16 @@ TEST_F(TextLinesTest, RecordLineOfOneFieldHasTheSameForms) {
               "#2026-12-25#\r\n#2027-01-02#\r\n#TRUE#\r\n\"\"\r\n-32768\r\n2147483647\r\n");
 }
 
+TEST_F(TextLinesTest, DateHasATimeOfDayOnlyIfItCarriesOne) {
+    const QDate day(2026, 12, 25);
+    EXPECT_EQ(Written([&](TextWriter& writer) {
+                  writer.Record(RecordLine().Date(QDateTime(day, QTime(18, 5, 9), Qt::UTC)));
+                  writer.Record(RecordLine().Date(QDateTime(day, QTime(0, 0, 1), Qt::UTC)));
+                  writer.Record(RecordLine().Date(QDateTime(day, QTime(0, 0), Qt::UTC)));
+              }),
+              "#2026-12-25 18:05:09#\r\n#2026-12-25 00:00:01#\r\n#2026-12-25#\r\n");
+}
+
 TEST_F(TextLinesTest, SingleNumbersHaveAPointInEveryRegion) {
     RegionalFormats::SetCurrent({QLocale(u"de_DE"_s), QLocale(u"de_DE"_s)});
     EXPECT_EQ(Written([](TextWriter& writer) {
