@@ -7,7 +7,6 @@
 #include "schedule/PrintErrors.h"
 #include "store/Conversions.h"
 
-#include <QFormLayout>
 #include <QImage>
 #include <QLabel>
 #include <QPainter>
@@ -116,10 +115,10 @@ Card* SetupLogoTab::MakeAdjustedCard() {
     Image3 = Named(new QLabel, u"Image3"_s);
     printedSize = SoftLabel({});
     printedSize->setAlignment(Qt::AlignCenter);
-    QFormLayout* sizes = MakeForm();
-    sizes->addRow(u"Width"_s, MakeSize(u"UpDown3"_s, u"width"_s, &CompanyLogo::WidthSmaller,
+    auto* sizes = new Form;
+    sizes->AddRow(u"Width"_s, MakeSize(u"UpDown3"_s, u"width"_s, &CompanyLogo::WidthSmaller,
                                        &CompanyLogo::WidthLarger));
-    sizes->addRow(u"Height"_s, MakeSize(u"UpDown2"_s, u"height"_s, &CompanyLogo::HeightSmaller,
+    sizes->AddRow(u"Height"_s, MakeSize(u"UpDown2"_s, u"height"_s, &CompanyLogo::HeightSmaller,
                                         &CompanyLogo::HeightLarger));
     auto* steps = new QHBoxLayout;
     steps->addLayout(sizes);
