@@ -21,9 +21,9 @@ namespace {
 
 constexpr double twipsInInch = 1440;
 constexpr double twipsInDot = 15;
-constexpr double viewWidth = 19;
-constexpr double viewHeight = 11;
-constexpr double guideWidth = 20;
+constexpr double viewWidth = 14.5;
+constexpr double viewHeight = 9.5;
+constexpr double guideWidth = 17;
 
 /// What the tab asks for, step by step.
 const QStringList guide = {

@@ -22,7 +22,7 @@ constexpr double colorWidth = 6;
 constexpr double fontWidth = 13;
 constexpr double copiesWidth = 5;
 /// Between words that read as one caption.
-constexpr double wordGap = 0.15;
+constexpr double wordGap = 0.25;
 
 } // namespace
 
