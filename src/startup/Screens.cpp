@@ -2,6 +2,7 @@
 
 #include "schedule/frmPrintSchedules.h"
 #include "setup/frmSplash.h"
+#include "slips/frmVehicle.h"
 #include "startup/Office.h"
 #include "startup/frmStartup.h"
 
@@ -18,7 +19,7 @@ Screens::~Screens() {
 
 bool Screens::IsBuilt(ScreenName name) {
     return name == ScreenName::frmSplash || name == ScreenName::frmStartup ||
-           name == ScreenName::frmPrintSchedules;
+           name == ScreenName::frmPrintSchedules || name == ScreenName::frmVehicle;
 }
 
 std::unique_ptr<Screen> Screens::Make(ScreenName name) {
@@ -29,6 +30,8 @@ std::unique_ptr<Screen> Screens::Make(ScreenName name) {
         return std::make_unique<frmStartup>(office, *this);
     case ScreenName::frmPrintSchedules:
         return std::make_unique<frmPrintSchedules>(office, *this);
+    case ScreenName::frmVehicle:
+        return std::make_unique<frmVehicle>(office, *this);
     default:
         return nullptr;
     }
