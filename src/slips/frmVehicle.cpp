@@ -382,12 +382,17 @@ void frmVehicle::MoveOnWithEnter(const QWidget* from) {
 }
 
 bool frmVehicle::eventFilter(QObject* watched, QEvent* event) {
+    auto* field = qobject_cast<QWidget*>(watched);
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            MoveOnWithEnter(qobject_cast<QWidget*>(watched));
+            MoveOnWithEnter(field);
             return true;
         }
+    } else if (event->type() == QEvent::Wheel && !field->hasFocus()) {
+        // Scrolling the screen must not turn a list that happens to lie under the pointer.
+        event->ignore();
+        return true;
     }
     return Screen::eventFilter(watched, event);
 }

@@ -3,15 +3,15 @@
 #include "support/ScreenTest.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScrollBar>
+#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -403,11 +403,11 @@ TEST_F(VehicleScreen, CapacityTakesANumberAndRefusesTheRestWithABeep) {
 
 TEST_F(VehicleScreen, CapacityPastedAsTextIsRefused) {
     Open();
-    QGuiApplication::clipboard()->setText(u"many"_s);
+    QApplication::clipboard()->setText(u"many"_s);
     QTest::keyClick(Capacity(), Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(Capacity()->text(), u""_s);
     EXPECT_EQ(user.Beeps, 1);
-    QGuiApplication::clipboard()->setText(u"12,500 lbs"_s);
+    QApplication::clipboard()->setText(u"12,500 lbs"_s);
     QTest::keyClick(Capacity(), Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(Capacity()->text(), u"12"_s);
     EXPECT_EQ(user.Beeps, 2);
@@ -447,6 +447,52 @@ TEST_F(VehicleScreen, EnterGoesToTheProductOfASingleProductVehicle) {
     Units()->setFocus();
     Press(Units(), Qt::Key_Return);
     EXPECT_EQ(Focused(), Products());
+}
+
+TEST_F(VehicleScreen, WheelTurnsAListOnlyWhenItHasTheFocus) {
+    Open();
+    Products()->setCurrentIndex(0);
+    const auto turn = [this] {
+        const QPointF place(5, 5);
+        QWheelEvent wheel(place, Products()->mapToGlobal(place), {}, QPoint(0, -120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(Products(), &wheel);
+    };
+    turn();
+    EXPECT_EQ(Products()->currentIndex(), 0);
+    Products()->setFocus();
+    turn();
+    EXPECT_EQ(Products()->currentIndex(), 1);
+}
+
+TEST_F(VehicleScreen, ChangeLeftUnsavedAtTheMenuIsNotSavedOverAnotherVehicle) {
+    WriteMasterFiles();
+    OpenFleet();
+    ClickCell(grid, 3, 0);
+    Type(Description(), u" old"_s);
+    ClickButton(0);
+    screens.Hide(ScreenName::frmStartup);
+    screens.Show(vehicles);
+    ExpectFields(emptyFields);
+    user.ExpectMessage(u"Enter a description of the Vehicle"_s);
+    ClickButton(13);
+    EXPECT_EQ(Row(1)[0], u"Flatbed Truck"_s);
+    EXPECT_EQ(Row(3)[0], u"Van 2"_s);
+}
+
+TEST_F(VehicleScreen, HeadBandTellsWhatIsBeingEntered) {
+    OpenFleet();
+    const auto* where = Find<QLabel>(vehicles, u"where"_s);
+    EXPECT_EQ(where->text(), u"Vehicles: 3"_s);
+    ClickCell(grid, 2, 0);
+    EXPECT_EQ(where->text(), u"Changing Tanker"_s);
+    grid->setFocus();
+    Press(grid, Qt::Key_Down);
+    EXPECT_EQ(where->text(), u"Changing Van 2"_s);
+    ClickButton(8);
+    EXPECT_EQ(where->text(), u"New vehicle"_s);
+    ClickButton(14);
+    EXPECT_EQ(where->text(), u"Vehicles: 3"_s);
 }
 
 TEST_F(VehicleScreen, TabFollowsTheEye) {
