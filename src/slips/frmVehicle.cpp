@@ -67,28 +67,7 @@ frmVehicle::frmVehicle(Office& theOffice, Screens& allScreens)
 
     MakeFootButtons();
     MakeMenu();
-    SetTabOrder();
     ShowAll();
-}
-
-void frmVehicle::SetTabOrder() {
-    QWidget* const order[] = {txtDescription,
-                              cmdServices[ClearDescription],
-                              ckMixed,
-                              txtCapacity,
-                              cboCapacity,
-                              cmdServices[ClearCapacity],
-                              cboProducts,
-                              cmdServices[CloseInstructions],
-                              fgItems,
-                              cmdServices[ReturnToMenu],
-                              cmdServices[Delete],
-                              cmdServices[Modify],
-                              cmdServices[AddNew],
-                              cmdServices[CancelEntry],
-                              cmdServices[Save]};
-    for (size_t i = 1; i < std::size(order); ++i)
-        setTabOrder(order[i - 1], order[i]);
 }
 
 QPushButton* frmVehicle::MakeButton(Button index, const QString& caption, const QString& tip) {

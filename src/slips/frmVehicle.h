@@ -45,7 +45,6 @@ private:
     QPushButton* MakeButton(Button index, const QString& caption, const QString& tip = {});
     void MakeFootButtons();
     void MakeMenu();
-    void SetTabOrder();
     QWidget* MakeEntryCard();
     void MakeFields();
     QWidget* MakeInstructions();
