@@ -1,11 +1,11 @@
 #include "setup/SetupPrintingTab.h"
 
 #include "platform/ColorNumber.h"
+#include "platform/EntryBox.h"
 #include "platform/Form.h"
 #include "platform/Screen.h"
 #include "platform/Theme.h"
 
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -42,9 +42,8 @@ Card* SetupPrintingTab::MakeLookCard() {
     lblFont->setMinimumWidth(Em(fontWidth));
     binder.AddShow([this, lblFont] { lblFont->setText(settings.DocumentFont); });
 
-    auto* cboCopies = Named(new QComboBox, u"cboCopies"_s);
+    auto* cboCopies = Named(new EntryBox, u"cboCopies"_s);
     cboCopies->setToolTip(u"How many copies to print"_s);
-    cboCopies->setEditable(true);
     cboCopies->addItems({u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s});
     cboCopies->setFixedWidth(Em(copiesWidth));
     binder.Bind(cboCopies, settings.cboCopies);

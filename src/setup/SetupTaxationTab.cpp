@@ -1,12 +1,12 @@
 #include "setup/SetupTaxationTab.h"
 
+#include "platform/EntryBox.h"
 #include "platform/Form.h"
 #include "platform/Screen.h"
 #include "platform/Theme.h"
 #include "setup/AmountBox.h"
 #include "setup/GraduatedTax.h"
 
-#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -25,8 +25,7 @@ const QStringList headings = {u"Sales Tax"_s, u"County Tax"_s,     u"Tax"_s, u"T
                               u"VAT Tax"_s,   u"Provincial Tax"_s, u"GST"_s};
 
 QComboBox* MakeList(const QString& name, const QStringList& entries, double width) {
-    auto* list = Named(new QComboBox, name);
-    list->setEditable(true);
+    auto* list = Named(new EntryBox, name);
     list->addItems(entries);
     list->setFixedWidth(Em(width));
     return list;

@@ -1,5 +1,6 @@
 #include "slips/frmVehicle.h"
 
+#include "platform/EntryBox.h"
 #include "platform/Grid.h"
 #include "platform/KeyFilter.h"
 #include "platform/Theme.h"
@@ -8,7 +9,6 @@
 #include "store/VerifyDataRoutines.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -27,8 +27,8 @@ constexpr double fieldWidth = 16;
 constexpr double gridHeight = 8;
 constexpr ushort enterKey = 13;
 
-QComboBox* MakeChoices(const QString& name, QAbstractItemModel& entries) {
-    auto* box = Named(new QComboBox, name);
+EntryBox* MakeChoices(const QString& name, QAbstractItemModel& entries) {
+    auto* box = Named(new EntryBox, name);
     box->setModel(&entries);
     // Measuring thousands of entries would hold the screen up.
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -105,14 +105,11 @@ void frmVehicle::MakeFields() {
         return FilterNumericKey(key, txtCapacity->text(), office.machine.user);
     });
     cboCapacity = MakeChoices(u"cboCapacity"_s, fleet.CapacityUnits);
-    cboCapacity->setEditable(true);
-    cboCapacity->setInsertPolicy(QComboBox::NoInsert);
-    // Completing would turn "pallets" into the "Pallets" of the list, and the two differ.
-    cboCapacity->setCompleter(nullptr);
     cboCapacity->lineEdit()->setMaxLength(longestCapacityUnit);
     ckMixed = Named(new QCheckBox(u"Allow Multiple  Products"_s), u"ckMixed"_s);
     connect(ckMixed, &QCheckBox::toggled, this, &frmVehicle::ckMixed_Click);
     cboProducts = MakeChoices(u"cboProducts"_s, office.items.ProductNames);
+    cboProducts->setEditable(false);
     // A list that was filled anew has nothing selected.
     connect(&office.items.ProductNames, &QAbstractItemModel::modelReset, cboProducts,
             [this] { cboProducts->setCurrentIndex(-1); });
@@ -361,17 +358,12 @@ void frmVehicle::MoveOnWithEnter(const QWidget* from) {
 }
 
 bool frmVehicle::eventFilter(QObject* watched, QEvent* event) {
-    auto* field = qobject_cast<QWidget*>(watched);
     if (event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            MoveOnWithEnter(field);
+            MoveOnWithEnter(qobject_cast<QWidget*>(watched));
             return true;
         }
-    } else if (event->type() == QEvent::Wheel && !field->hasFocus()) {
-        // Scrolling the screen must not turn a list that happens to lie under the pointer.
-        event->ignore();
-        return true;
     }
     return Screen::eventFilter(watched, event);
 }

@@ -486,7 +486,7 @@ TEST_F(VehicleFleetTest, UnitTypedAnewComesBackAtTheNextStartAndIsOfferedOnce) {
     EXPECT_EQ(fleet.CapacityUnits.stringList(), commonUnits);
     fleet.WriteFleet();
     EXPECT_EQ(folder.Read(capacityFile), commonUnitLines + "\"Kegs\"\r\n");
-    Office next(folder.Path(), {clock, user, printer, browser});
+    Office next(folder.Path(), {clock, user, printer, browser, pictures});
     next.fleet.Load();
     EXPECT_EQ(next.fleet.CapacityUnits.stringList(), commonUnits + QStringList{u"Kegs"_s});
 }
