@@ -21,6 +21,8 @@ protected:
         rows->addWidget(&box);
         rows->addWidget(&other);
         window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
     void TurnWheel() {
