@@ -4,5 +4,6 @@ Office::Office(const QString& dataFolder, const Machine& theMachine)
     : machine(theMachine), disk(dataFolder), settingsStore(disk, settings),
       calendar(disk, machine.user, settings.WorkWeek),
       slips(disk, calendar, settings, machine.clock, machine.user), fleet(disk), items(disk),
+      inventoriedItems(disk, machine.user), nonInventoriedItems(disk),
       board(disk, slips, calendar, settings, machine.clock, machine.user),
       printer(machine.printer, settings), schedulePrinter(board, printer, settings, machine.user) {}

@@ -4,6 +4,8 @@
 #include "platform/Operator.h"
 #include "platform/PrinterSurface.h"
 #include "platform/WebBrowser.h"
+#include "products/InventoriedItems.h"
+#include "products/NonInventoriedItems.h"
 #include "products/SalesItemLists.h"
 #include "schedule/DeliverySchedulePrinter.h"
 #include "schedule/PrinterRoutines.h"
@@ -38,6 +40,8 @@ public:
     DeliverySlipRoutines slips;
     VehicleFleet fleet;
     SalesItemLists items;
+    InventoriedItems inventoriedItems;
+    NonInventoriedItems nonInventoriedItems;
     ScheduleBoard board;
     PrinterRoutines printer;
     DeliverySchedulePrinter schedulePrinter;
