@@ -527,6 +527,7 @@ void frmServices::SetFocusToNon(ItemFocus focus) {
 }
 
 void frmServices::LoadSalesItems() {
+    ReadEntries();
     items.LoadSalesItems();
     ShowEntries();
     EnableControls();

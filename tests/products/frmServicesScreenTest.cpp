@@ -539,6 +539,17 @@ TEST_F(ServicesScreen, ReloadOfACategoryAsksForOneThenShowsItAlone) {
     EXPECT_EQ(Category()->currentText(), u"Fine"_s);
 }
 
+TEST_F(ServicesScreen, LoadSalesItemsReloadsTheGridAndLeavesTheEntryAlone) {
+    Write({{.description = "Gravel"}});
+    Open();
+    ClickButton(8);
+    Enter(u"txtDescription(1)"_s, u"Bricks"_s);
+    Write({{.description = "Sand"}});
+    static_cast<frmServices*>(screens.Find(products))->LoadSalesItems();
+    EXPECT_EQ(Names(), QStringList{u"Sand"_s});
+    EXPECT_EQ(Field(u"txtDescription(1)"_s)->text(), u"Bricks"_s);
+}
+
 TEST_F(ServicesScreen, SortBoxSortsTheGridAsTextAndIsCleared) {
     Write({{.description = "a", .unitCost = 90'000}, {.description = "b", .unitCost = 100'000}});
     Open();
