@@ -492,8 +492,10 @@ void BasicDiskRoutines::ReadRecord(qint16 fileNumber, qint32 recordNumber, void*
     const off_t start = StartOf(random, recordNumber, size, operation);
     const ssize_t count =
         Uninterrupted([&] { return ::pread(random.descriptor, record, size, start); });
-    if (count < 0)
-        throw FailureFromErrno(errno, operation());
+    if (count < 0) {
+        const int error = errno;
+        throw FailureFromErrno(error, operation());
+    }
     std::memset(static_cast<char*>(record) + count, 0, size - size_t(count));
 }
 
@@ -509,8 +511,10 @@ void BasicDiskRoutines::WriteRecord(qint16 fileNumber, qint32 recordNumber, cons
         const ssize_t count = Uninterrupted([&] {
             return ::pwrite(random.descriptor, bytes + done, size - done, start + off_t(done));
         });
-        if (count < 0)
-            throw FailureFromErrno(errno, operation());
+        if (count < 0) {
+            const int error = errno;
+            throw FailureFromErrno(error, operation());
+        }
         done += size_t(count);
     }
 }
