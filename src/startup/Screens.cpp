@@ -1,5 +1,6 @@
 #include "startup/Screens.h"
 
+#include "products/frmServices.h"
 #include "schedule/frmPrintSchedules.h"
 #include "setup/frmHolidays.h"
 #include "setup/frmSetup.h"
@@ -24,7 +25,6 @@ bool Screens::IsBuilt(ScreenName name) {
     case ScreenName::frmWeekly:
     case ScreenName::frmCustomer:
     case ScreenName::frmDelivery:
-    case ScreenName::frmServices:
     case ScreenName::frmTaxForm:
     case ScreenName::frmSalesReport:
     case ScreenName::frmInvoiceReport:
@@ -48,6 +48,8 @@ std::unique_ptr<Screen> Screens::Make(ScreenName name) {
         return std::make_unique<frmHolidays>(office, *this);
     case ScreenName::frmVehicle:
         return std::make_unique<frmVehicle>(office, *this);
+    case ScreenName::frmServices:
+        return std::make_unique<frmServices>(office, *this);
     default:
         return nullptr;
     }

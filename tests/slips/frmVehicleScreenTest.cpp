@@ -198,7 +198,6 @@ TEST_F(VehicleScreen, UnitTypedInOtherCaseStaysAsTyped) {
     ClickButton(13);
     EXPECT_EQ(Row(1)[2], u"pallets"_s);
     user.ExpectMessage(u"Create at least One Deliverable Product Now"_s);
-    user.ExpectMessage(u"This routine is not part of this version yet."_s);
     ClickButton(0);
     EXPECT_EQ(Units()->count(), 10);
     EXPECT_EQ(Units()->itemText(9), u"pallets"_s);

@@ -71,11 +71,11 @@ TEST_F(StartupScreen, AllMasterFilesOpenAllRoutines) {
 
 TEST_F(StartupScreen, NewUserIsSentToTheProductsFirst) {
     user.ExpectMessage(u"Create at least One Deliverable Product Now"_s);
-    user.ExpectMessage(notBuilt);
     screens.Show(menu);
     EXPECT_EQ(office.MenuChoice, 6);
     EXPECT_EQ(Open(), (QList<int>{6, 7, 8, 9}));
-    EXPECT_TRUE(IsShown(menu));
+    EXPECT_FALSE(IsShown(menu));
+    EXPECT_TRUE(IsShown(ScreenName::frmServices));
 }
 
 TEST_F(StartupScreen, WithProductsTheVehiclesComeNext) {
@@ -214,10 +214,19 @@ TEST_F(StartupScreen, ClickOnARoutineHidesTheMenuAndShowsItsScreen) {
     EXPECT_TRUE(IsShown(ScreenName::frmPrintSchedules));
 }
 
+TEST_F(StartupScreen, ProductsRoutineShowsTheProducts) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    Click(menu, u"lblSub(6)"_s);
+    EXPECT_EQ(office.MenuChoice, 6);
+    EXPECT_FALSE(IsShown(menu));
+    EXPECT_TRUE(IsShown(ScreenName::frmServices));
+}
+
 TEST_F(StartupScreen, RoutineWithoutAScreenLeavesTheOperatorOnTheMenu) {
     WriteMasterFiles();
     screens.Show(menu);
-    for (const int i : {1, 2, 5, 6, 7, 8, 9}) {
+    for (const int i : {1, 2, 5, 7, 8, 9}) {
         user.ExpectMessage(notBuilt);
         Click(menu, u"lblSub(%1)"_s.arg(i));
         EXPECT_EQ(office.MenuChoice, i);
@@ -236,9 +245,9 @@ TEST_F(StartupScreen, VehiclesRoutineShowsTheVehicleScreen) {
 
 TEST_F(StartupScreen, FirstRunGoesFromProductsToVehiclesToCustomers) {
     user.ExpectMessage(u"Create at least One Deliverable Product Now"_s);
-    user.ExpectMessage(notBuilt);
     screens.Show(menu);
     EXPECT_EQ(Open(), (QList<int>{6, 7, 8, 9}));
+    ASSERT_TRUE(IsShown(ScreenName::frmServices));
 
     folder.Write(u"NXInventoriedItems.txt"_s, {});
     user.ExpectMessage(u"Create at least One Delivery Vehicle Now"_s);
