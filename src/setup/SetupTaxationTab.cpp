@@ -7,7 +7,6 @@
 #include "setup/GraduatedTax.h"
 
 #include <QComboBox>
-#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -114,12 +113,12 @@ Card* SetupTaxationTab::MakeGraduatedCard() {
 }
 
 Card* SetupTaxationTab::MakeGraduatedPanel() {
-    QFormLayout* form = MakeForm();
-    form->addRow(u"Apply Primary Tax Rate to all Sales up to  a Total of:"_s,
+    auto* form = new Form;
+    form->AddRow(u"Apply Primary Tax Rate to all Sales up to  a Total of:"_s,
                  MakeAmount(0, u"Max amount of primary rate"_s));
-    form->addRow(u"Apply Secondary Tax Rate when exceeded"_s, new QWidget);
-    form->addRow(u"when Primary Amount is exceeded"_s, new QWidget);
-    form->addRow(u"Apply a Surcharge of:"_s,
+    form->AddRow(u"Apply Secondary Tax Rate when exceeded"_s, new QWidget);
+    form->AddRow(u"when Primary Amount is exceeded"_s, new QWidget);
+    form->AddRow(u"Apply a Surcharge of:"_s,
                  MakeAmount(1, u"Flat surcharge when 1st total is exceeded"_s));
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(MakeButton(ClearPanel, u"Clear/Redo"_s));
