@@ -132,18 +132,21 @@ QRadioButton* SetupPrintingTab::MakePaper(const QString& name, const QString& ca
 }
 
 void SetupPrintingTab::cmdChange_Click(int index) {
-    switch (index) {
-    case Borders:
-        printLook.ChangeBorderColor();
-        break;
-    case Text:
-        printLook.ChangeTextColor();
-        break;
-    default:
-        printLook.ChangeFont();
-    }
+    if (!Change(index))
+        return;
     ShowAll();
     RecolorSamples();
+}
+
+bool SetupPrintingTab::Change(int index) {
+    switch (index) {
+    case Borders:
+        return printLook.ChangeBorderColor();
+    case Text:
+        return printLook.ChangeTextColor();
+    default:
+        return printLook.ChangeFont();
+    }
 }
 
 void SetupPrintingTab::RecolorSamples() {

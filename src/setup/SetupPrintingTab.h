@@ -33,6 +33,7 @@ private:
                             bool& value, bool& other);
 
     void cmdChange_Click(int index);
+    bool Change(int index);
 
     LiveSettings& settings;
     PrintLook& printLook;
