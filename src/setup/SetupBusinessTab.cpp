@@ -5,7 +5,6 @@
 #include "platform/Theme.h"
 #include "setup/AddressStyle.h"
 
-#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -61,9 +60,8 @@ QWidget* SetupBusinessTab::MakeForm() {
         u"State"_s,         u"Postal Zip Code"_s, u"Telephone"_s, u"Fax No,email or Web"_s,
         u"FEIN, VAT, ABN"_s};
     auto* block = new QWidget;
-    QFormLayout* form = ::MakeForm();
+    auto* form = new Form;
     block->setLayout(form);
-    form->setContentsMargins({});
     for (int i = 0; i < int(txtBusiness.size()); ++i)
         AddBusinessRow(form, i, captions[i]);
     // A length set while the text before still stands could cut it, and what is left of it would
@@ -76,25 +74,20 @@ QWidget* SetupBusinessTab::MakeForm() {
     return block;
 }
 
-void SetupBusinessTab::AddBusinessRow(QFormLayout* form, int index, const QString& caption) {
+void SetupBusinessTab::AddBusinessRow(Form* form, int index, const QString& caption) {
     auto* box = Named(new QLineEdit, Indexed(u"txtBusiness"_s, index));
     auto* label = Named(new QLabel(caption), Indexed(u"lblAddress"_s, index));
-    label->setBuddy(box);
     box->setFixedWidth(Em(addressWidth));
     txtBusiness[size_t(index)] = box;
     lblAddress[size_t(index)] = label;
-    form->addRow(label, index == postalCode ? MakePostalField() : box);
+    form->AddRow(label, index == postalCode ? MakePostalField() : box);
+    label->setBuddy(box);
 }
 
 QWidget* SetupBusinessTab::MakePostalField() {
     txtBusiness[postalCode]->setFixedWidth(Em(postalWidth));
     lblPostal = Named(SoftLabel(u"A postal code stands for the USA style"_s), u"lblPostal"_s);
-    auto* field = new QWidget;
-    auto* row = new QHBoxLayout(field);
-    row->setContentsMargins({});
-    row->addWidget(txtBusiness[postalCode]);
-    row->addWidget(lblPostal);
-    return field;
+    return InOneLine({txtBusiness[postalCode], lblPostal});
 }
 
 QToolButton* SetupBusinessTab::MakeImage(const QString& name, const QString& icon,

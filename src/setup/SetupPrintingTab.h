@@ -6,7 +6,6 @@
 #include <QWidget>
 
 class Card;
-class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;

@@ -48,8 +48,8 @@ public:
     Calendar calendar;
     DeliveryTimes deliveryTimes;
     DeliverySlipRoutines slips;
-    VehicleFleet fleet;
     SalesItemLists items;
+    VehicleFleet fleet;
     ScheduleBoard board;
     PrinterRoutines printer;
     DeliverySchedulePrinter schedulePrinter;
