@@ -640,6 +640,20 @@ TEST_F(SettingsStoreTest, ColourFlagStaysAtItsFirstValueWhateverTheBoxShows) {
     EXPECT_EQ(folder.Read(printColors.name), "0\r\n0\r\n\"Arial\"\r\n#FALSE#\r\n3\r\n");
 }
 
+TEST_F(SettingsStoreTest, PrintDialogTakesTheCopiesWhenTheyAreReadAndNotWhenTheyAreSaved) {
+    Load(printColors);
+    EXPECT_EQ(live.printDialogCopies, 3);
+    folder.Write(printColors.name, printColors.Bytes());
+    Load(printColors);
+    EXPECT_EQ(live.printDialogCopies, 2);
+    EXPECT_EQ(live.cboCopies, u"2"_s);
+    live.PrintCopies = 5;
+    Save(printColors);
+    EXPECT_EQ(live.printDialogCopies, 2);
+    Load(printColors);
+    EXPECT_EQ(live.printDialogCopies, 5);
+}
+
 TEST_F(SettingsStoreTest, LogoSizeAbove2880IsReadAs1440WidthAndHeightApart) {
     const std::vector<std::tuple<QByteArray, float, float>> rows = {
         {"3000,2000\r\n", 1440.0F, 2000.0F},
