@@ -21,6 +21,7 @@ constexpr int postalCode = 5;
 
 constexpr int stateCharacters = 2;
 constexpr int addressCharacters = 55;
+constexpr int anyCharacters = 32'767;
 
 // Widths of the two fields that change with the style, in twips at the toolkit's smallest font,
 // whose height is 195 twips.
@@ -63,11 +64,13 @@ QWidget* SetupBusinessTab::MakeForm() {
     block->setLayout(form);
     for (int i = 0; i < int(txtBusiness.size()); ++i)
         AddBusinessRow(form, i, captions[i]);
-    // Its own length depends on the style, so it has to be set before a text is.
-    binder.AddShow([this] { LimitState(); });
+    // A length set while the text before still stands could cut it, and what is left of it would
+    // reach the setting.
+    binder.AddShow([this] { txtBusiness[state]->setMaxLength(anyCharacters); });
     for (size_t i = 0; i < txtBusiness.size(); ++i)
         binder.Bind(txtBusiness[i], settings.txtBusiness[i]);
-    connect(txtBusiness[state], &QLineEdit::textEdited, this, &SetupBusinessTab::LimitState);
+    binder.AddShow([this] { LimitState(); });
+    connect(txtBusiness[state], &QLineEdit::textChanged, this, &SetupBusinessTab::LimitState);
     return block;
 }
 
@@ -143,7 +146,14 @@ void SetupBusinessTab::ShowStyle() {
 /// A text that is longer already stays whole; it can only become shorter.
 void SetupBusinessTab::LimitState() {
     const qsizetype limit = IsUsaStyle(settings) ? stateCharacters : addressCharacters;
-    txtBusiness[state]->setMaxLength(int(qMax(limit, settings.txtBusiness[state].size())));
+    const int length = int(qMax(limit, settings.txtBusiness[state].size()));
+    QLineEdit* box = txtBusiness[state];
+    if (box->maxLength() == length)
+        return;
+    // A new length takes the cursor to the end.
+    const int cursor = box->cursorPosition();
+    box->setMaxLength(length);
+    box->setCursorPosition(cursor);
 }
 
 void SetupBusinessTab::cmdAddress_Click() {
