@@ -14,9 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// All screens so far stand in the same place.
-const QString layoutKey = u"TesselDelivery"_s;
-
 constexpr int cardSide = 16;
 constexpr int cardTop = 12;
 constexpr int bandSide = 20;
@@ -33,7 +30,9 @@ QFrame* MakeBand(const QString& name) {
 
 } // namespace
 
-Screen::Screen(const QString& name, const QString& title) {
+Screen::Screen(const QString& name, const QString& title, const QString& layoutKey,
+               const QString& saveKey)
+    : restoredFrom(layoutKey), savedUnder(saveKey.isEmpty() ? layoutKey : saveKey) {
     setObjectName(name);
     setWindowTitle(title);
 
@@ -56,12 +55,12 @@ Screen::Screen(const QString& name, const QString& title) {
 
 Screen::~Screen() {
     if (isVisible())
-        WindowLayout::Save(*this, layoutKey);
+        WindowLayout::Save(*this, savedUnder);
 }
 
 void Screen::BringUp() {
     if (!isVisible())
-        WindowLayout::Restore(*this, layoutKey);
+        WindowLayout::Restore(*this, restoredFrom);
     show();
     raise();
     activateWindow();
@@ -126,7 +125,7 @@ void Screen::closeEvent(QCloseEvent* event) {
 }
 
 void Screen::hideEvent(QHideEvent* event) {
-    WindowLayout::Save(*this, layoutKey);
+    WindowLayout::Save(*this, savedUnder);
     QMainWindow::hideEvent(event);
 }
 

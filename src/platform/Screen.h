@@ -15,7 +15,12 @@ class Screen : public QMainWindow {
     Q_OBJECT
 
 public:
-    Screen(const QString& name, const QString& title);
+    /// `layoutKey` is the key under which the window's layout is kept; screens with the same one
+    /// stand in the same place. One that keeps its layout under another key than it restores it
+    /// from has a `saveKey`.
+    Screen(const QString& name, const QString& title,
+           const QString& layoutKey = QStringLiteral("TesselDelivery"),
+           const QString& saveKey = {});
     ~Screen() override;
 
     /// Shows the screen in front, where the one before it stood.
@@ -46,6 +51,8 @@ private:
     QWidget* MakeHead(const QString& caption);
     QWidget* MakeFoot();
 
+    QString restoredFrom;
+    QString savedUnder;
     QLabel* captionLabel = nullptr;
     QLabel* where = nullptr;
     QWidget* body = nullptr;

@@ -1,5 +1,6 @@
 #include "startup/Screens.h"
 
+#include "customers/frmCustomer.h"
 #include "schedule/frmPrintSchedules.h"
 #include "setup/frmSplash.h"
 #include "startup/Office.h"
@@ -18,7 +19,7 @@ Screens::~Screens() {
 
 bool Screens::IsBuilt(ScreenName name) {
     return name == ScreenName::frmSplash || name == ScreenName::frmStartup ||
-           name == ScreenName::frmPrintSchedules;
+           name == ScreenName::frmPrintSchedules || name == ScreenName::frmCustomer;
 }
 
 std::unique_ptr<Screen> Screens::Make(ScreenName name) {
@@ -29,6 +30,8 @@ std::unique_ptr<Screen> Screens::Make(ScreenName name) {
         return std::make_unique<frmStartup>(office, *this);
     case ScreenName::frmPrintSchedules:
         return std::make_unique<frmPrintSchedules>(office, *this);
+    case ScreenName::frmCustomer:
+        return std::make_unique<frmCustomer>(office, *this);
     default:
         return nullptr;
     }
