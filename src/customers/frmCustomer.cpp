@@ -19,7 +19,7 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include <utility>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -35,7 +35,7 @@ constexpr double cityWidth = 16;
 constexpr double stateWidth = 4.5;
 constexpr double postalWidth = 7;
 constexpr double phoneWidth = 9;
-constexpr double titleWidth = 5.5;
+constexpr double titleWidth = 6.4;
 constexpr double firstNameWidth = 9;
 constexpr double initialWidth = 2.6;
 constexpr double pictureSize = 1.3;
@@ -128,6 +128,7 @@ frmCustomer::frmCustomer(Office& theOffice, Screens& allScreens)
     columns->addLayout(main, 1);
     columns->addLayout(side);
     MakeFoot();
+    SetTabOrder();
     SetKeyFilters();
 
     customers.Load();
@@ -183,8 +184,9 @@ void frmCustomer::MakeFoot() {
     };
     AddWayBack(make(Menu, u"&Menu"_s));
     AddAction(make(CancelAddNew, u"Cancel Add &New"_s));
-    AddAction(MakeButton(u"cmdNew"_s, u"Add New Customer"_s,
-                         [this] { Run([this] { customers.AddNewCustomer(); }); }));
+    cmdNew = MakeButton(u"cmdNew"_s, u"Add New Customer"_s,
+                        [this] { Run([this] { customers.AddNewCustomer(); }); });
+    AddAction(cmdNew);
     AddMainAction(make(Select, u"&Select this Account Start Routine"_s));
 }
 
@@ -227,7 +229,8 @@ QWidget* frmCustomer::MakeAccountCard() {
     card->Rows()->addWidget(MakeInternationalAddress());
 
     auto* reached = MakeForm();
-    AddRow(reached, u"Telephone"_s, MakePhoneRow(), Text(CustomerText::Phone));
+    QWidget* phone = MakePhoneRow();
+    AddRow(reached, u"Telephone"_s, phone, Text(CustomerText::Phone));
     AddRow(reached, u"Cell"_s, MakeText(CustomerText::Cell, u"Cell"_s, phoneWidth, 12));
     AddRow(reached, u"E-mail"_s, MakeText(CustomerText::Email, u"E-mail"_s, addressWidth, 30));
     card->Rows()->addLayout(reached);
@@ -239,10 +242,10 @@ QWidget* frmCustomer::MakeTypeRow() {
     auto* form = MakeForm(block);
     lblLType = Named(new QLabel, u"lblLType"_s);
     lblLType->setProperty("strong", true);
-    auto* toggle = MakeButton(u"cmdAcctType"_s, u"Toggle Account Type"_s,
-                              [this] { Run([this] { customers.ToggleAccountType(); }); });
+    cmdAcctType = MakeButton(u"cmdAcctType"_s, u"Toggle Account Type"_s,
+                             [this] { Run([this] { customers.ToggleAccountType(); }); });
     lblLType->setMinimumWidth(Em(labelWidth));
-    AddRow(form, u"Type"_s, RowOf({lblLType, toggle}), toggle);
+    AddRow(form, u"Type"_s, RowOf({lblLType, cmdAcctType}), cmdAcctType);
     return block;
 }
 
@@ -375,6 +378,43 @@ QWidget* frmCustomer::MakeAutoAdvance() {
     rows->addWidget(button);
     rows->addLayout(speed);
     return block;
+}
+
+/// From the top of the record down, then the buttons beside it, then the foot.
+void frmCustomer::SetTabOrder() {
+    QWidget* const order[] = {cmdAcctType,
+                              Text(CustomerText::AcctNo),
+                              Text(CustomerText::BusinessName),
+                              cboTitle,
+                              Text(CustomerText::FirstName),
+                              Text(CustomerText::MiddleInitial),
+                              Text(CustomerText::LastName),
+                              cboAccounts,
+                              Text(CustomerText::Address1),
+                              Text(CustomerText::Address2),
+                              cboCity,
+                              cboStates,
+                              Text(CustomerText::PostalCode),
+                              txtAdd3,
+                              txtAdd4,
+                              Text(CustomerText::Phone),
+                              Text(CustomerText::Cell),
+                              Text(CustomerText::Email),
+                              Command1[FindInNameList],
+                              Command1[SelectFromList],
+                              cmdNav[Move::First],
+                              cmdNav[Move::Previous],
+                              cmdNav[Move::Next],
+                              cmdNav[Move::Last],
+                              cmdNav[Move::Quarter],
+                              cmdNav[Move::Half],
+                              cmdNav[Move::ThreeQuarters],
+                              cmdCustomer[Menu],
+                              cmdCustomer[CancelAddNew],
+                              cmdNew,
+                              cmdCustomer[Select]};
+    for (size_t i = 1; i < std::size(order); ++i)
+        setTabOrder(order[i - 1], order[i]);
 }
 
 void frmCustomer::SetKeyFilters() {

@@ -64,6 +64,7 @@ private:
     QPushButton* MakeMove(Move move, const QString& caption, const QString& tip);
     QAction* AddItem(QMenu* menu, const QString& name, const QString& caption,
                      const std::function<void()>& action);
+    void SetTabOrder();
     void SetKeyFilters();
 
     /// Lets a rule work on what stands in the controls, and shows what it has made of it.
@@ -98,6 +99,8 @@ private:
     QComboBox* cboCity = nullptr;
     QComboBox* cboStates = nullptr;
     QLabel* lblLType = nullptr;
+    QPushButton* cmdAcctType = nullptr;
+    QPushButton* cmdNew = nullptr;
     QWidget* fraUSAddress = nullptr;
     QWidget* fraIntAddress = nullptr;
     std::map<Button, QPushButton*> cmdCustomer;
