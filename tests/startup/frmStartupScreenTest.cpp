@@ -208,11 +208,23 @@ TEST_F(StartupScreen, ClickOnARoutineHidesTheMenuAndShowsItsScreen) {
 TEST_F(StartupScreen, RoutineWithoutAScreenLeavesTheOperatorOnTheMenu) {
     WriteMasterFiles();
     screens.Show(menu);
-    for (int i = 1; i < 10; ++i) {
+    for (const int i : {1, 3, 4, 6, 7, 8, 9}) {
         user.ExpectMessage(notBuilt);
         Click(menu, u"lblSub(%1)"_s.arg(i));
         EXPECT_EQ(office.MenuChoice, i);
         EXPECT_TRUE(IsShown(menu));
+    }
+}
+
+TEST_F(StartupScreen, MaintenanceAndDeliveryBothOpenTheCustomersAndSayWhich) {
+    WriteMasterFiles();
+    for (const int i : {2, 5}) {
+        screens.Show(menu);
+        Click(menu, u"lblSub(%1)"_s.arg(i));
+        EXPECT_EQ(office.MenuChoice, i);
+        EXPECT_TRUE(IsShown(ScreenName::frmCustomer));
+        EXPECT_FALSE(IsShown(menu));
+        screens.Hide(ScreenName::frmCustomer);
     }
 }
 
