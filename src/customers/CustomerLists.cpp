@@ -10,6 +10,41 @@ bool ComesBefore(const QString& one, const QString& other) {
     return one.compare(other, Qt::CaseInsensitive) < 0;
 }
 
+/// The first four characters in one case as one number, which decides most comparisons by itself.
+quint64 StartOf(const QString& text) {
+    constexpr qsizetype characters = 4;
+    constexpr int bitsOfCharacter = 16;
+    quint64 start = 0;
+    for (qsizetype i = 0; i < characters; ++i)
+        start =
+            start << bitsOfCharacter | (i < text.size() ? text[i].toCaseFolded().unicode() : 0U);
+    return start;
+}
+
+/// The places of the texts in alphabetical order without regard to case; of equal ones the first
+/// stays first.
+template <typename TextAt>
+std::vector<size_t> AlphabeticalOrder(size_t count, TextAt&& textAt) {
+    struct Keyed {
+        quint64 start;
+        size_t place;
+    };
+    std::vector<Keyed> keyed;
+    keyed.reserve(count);
+    for (size_t place = 0; place < count; ++place)
+        keyed.push_back({StartOf(textAt(place)), place});
+    std::sort(keyed.begin(), keyed.end(), [&](const Keyed& one, const Keyed& other) {
+        if (one.start != other.start)
+            return one.start < other.start;
+        const int comparison = textAt(one.place).compare(textAt(other.place), Qt::CaseInsensitive);
+        return comparison < 0 || (comparison == 0 && one.place < other.place);
+    });
+    std::vector<size_t> order(count);
+    std::transform(keyed.begin(), keyed.end(), order.begin(),
+                   [](const Keyed& entry) { return entry.place; });
+    return order;
+}
+
 QString Comparable(const QString& text) {
     return TrimBlanks(text.toUpper());
 }
@@ -17,24 +52,13 @@ QString Comparable(const QString& text) {
 } // namespace
 
 void AccountNames::Fill(std::vector<Entry> unsorted) {
-    struct Keyed {
-        QString key;
-        size_t place;
-    };
-    // Names are brought to one case once each, not at each of the many comparisons.
-    std::vector<Keyed> order;
-    order.reserve(unsorted.size());
-    for (size_t place = 0; place < unsorted.size(); ++place)
-        order.push_back({unsorted[place].name.toCaseFolded(), place});
-    std::sort(order.begin(), order.end(), [](const Keyed& one, const Keyed& other) {
-        const int comparison = one.key.compare(other.key);
-        return comparison < 0 || (comparison == 0 && one.place < other.place);
-    });
+    const std::vector<size_t> order = AlphabeticalOrder(
+        unsorted.size(), [&](size_t place) -> const QString& { return unsorted[place].name; });
     beginResetModel();
     entries.clear();
     entries.reserve(unsorted.size());
-    for (const Keyed& entry : order)
-        entries.push_back(std::move(unsorted[entry.place]));
+    for (const size_t place : order)
+        entries.push_back(std::move(unsorted[place]));
     endResetModel();
 }
 
@@ -58,14 +82,18 @@ QVariant AccountNames::data(const QModelIndex& index, int role) const {
 
 void CityNames::Fill(const QStringList& cities) {
     known.clear();
-    QStringList names;
+    QStringList once;
     for (const QString& city : cities) {
-        if (!known.contains(city)) {
-            known.insert(city);
-            names += city;
-        }
+        const qsizetype before = known.size();
+        known.insert(city);
+        if (known.size() > before)
+            once += city;
     }
-    std::stable_sort(names.begin(), names.end(), ComesBefore);
+    QStringList names;
+    names.reserve(once.size());
+    for (const size_t place : AlphabeticalOrder(
+             size_t(once.size()), [&](size_t at) -> const QString& { return once[qsizetype(at)]; }))
+        names += once[qsizetype(place)];
     setStringList(names);
 }
 

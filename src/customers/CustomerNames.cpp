@@ -2,7 +2,9 @@
 
 using namespace Qt::StringLiterals;
 
-QString ShownText(QByteArrayView field) {
+namespace {
+
+QByteArrayView ShownBytes(QByteArrayView field) {
     const qsizetype nul = field.indexOf('\0');
     if (nul >= 0)
         field.truncate(nul);
@@ -10,7 +12,13 @@ QString ShownText(QByteArrayView field) {
         field = field.sliced(1);
     while (field.endsWith(' '))
         field.chop(1);
-    return FromCodePage(field);
+    return field;
+}
+
+} // namespace
+
+QString ShownText(QByteArrayView field) {
+    return FromCodePage(ShownBytes(field));
 }
 
 QString BusinessType() {
@@ -19,6 +27,11 @@ QString BusinessType() {
 
 QString IndividualType() {
     return u"Individual"_s;
+}
+
+bool IsBusiness(const CustomerRecord& customer) {
+    return ShownBytes({customer.AcctType.bytes.data(),
+                       qsizetype(customer.AcctType.bytes.size())}) == "Business";
 }
 
 QString FullPersonalName(const QString& title, const QString& first, const QString& middle,
@@ -42,7 +55,10 @@ QString FullPersonalName(const CustomerRecord& customer) {
 }
 
 QString ShortCustomerName(const CustomerRecord& customer) {
-    if (ShownText(customer.AcctType) == BusinessType())
+    if (IsBusiness(customer))
         return ShownText(customer.BusinessName);
-    return ShownText(customer.LastName) + u", "_s + ShownText(customer.FirstName);
+    QString name = ShownText(customer.LastName);
+    name += ", "_L1;
+    name += ShownText(customer.FirstName);
+    return name;
 }

@@ -16,6 +16,8 @@ QString ShownText(const FixedText<Width>& field) {
 QString BusinessType();
 QString IndividualType();
 
+bool IsBusiness(const CustomerRecord& customer);
+
 /// Joins a person's name: each part that is not blank, the title and the first name with a blank
 /// behind them, the middle initial with a point and a blank.
 QString FullPersonalName(const QString& title, const QString& first, const QString& middle,
