@@ -7,6 +7,7 @@
 #include "startup/Screens.h"
 #include "store/VerifyDataRoutines.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QFocusEvent>
 #include <QGridLayout>
@@ -16,6 +17,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QStringListModel>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -37,6 +39,7 @@ constexpr double postalWidth = 7;
 constexpr double phoneWidth = 9;
 constexpr double titleWidth = 6.4;
 constexpr double firstNameWidth = 9;
+constexpr double lastNameWidth = 12;
 constexpr double initialWidth = 2.6;
 constexpr double pictureSize = 1.3;
 constexpr int namesInPopup = 16;
@@ -257,7 +260,7 @@ QWidget* frmCustomer::MakeNameRow() {
     cboTitle->lineEdit()->setPlaceholderText(u"Title"_s);
     auto* first = MakeText(CustomerText::FirstName, u"First name"_s, firstNameWidth, 15);
     auto* middle = MakeText(CustomerText::MiddleInitial, u"Middle initial"_s, initialWidth, 1);
-    auto* last = MakeText(CustomerText::LastName, u"Last name"_s, firstNameWidth, 25);
+    auto* last = MakeText(CustomerText::LastName, u"Last name"_s, lastNameWidth, 25);
     first->setPlaceholderText(u"First name"_s);
     middle->setPlaceholderText(u"MI"_s);
     last->setPlaceholderText(u"Last name"_s);
@@ -570,12 +573,25 @@ void frmCustomer::txtCustomer_LostFocus(CustomerText place) {
         Run([this] { customers.AcctNo_LostFocus(); });
     else if (place == CustomerText::BusinessName)
         Run([this] { customers.BusinessName_LostFocus(); });
+    ReleaseButtons();
+}
+
+/// When a click on a button has brought up a message about the field before it, the message has
+/// taken the release of the mouse, and the button would stay down.
+void frmCustomer::ReleaseButtons() {
+    QTimer::singleShot(0, this, [this] {
+        if (QApplication::mouseButtons() != Qt::NoButton)
+            return;
+        for (auto* button : findChildren<QPushButton*>())
+            button->setDown(false);
+    });
 }
 
 void frmCustomer::cboAccounts_LostFocus() {
     if (isShowing || cboAccounts->isHidden())
         return;
     Run([this] { customers.cboAccounts_LostFocus(cboAccounts->currentText()); });
+    ReleaseButtons();
 }
 
 void frmCustomer::cboAccounts_Click(int row) {

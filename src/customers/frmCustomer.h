@@ -77,6 +77,7 @@ private:
     void MoveFocus();
     void LeaveWithoutCustomer();
 
+    void ReleaseButtons();
     void txtCustomer_LostFocus(CustomerText place);
     void txtCustomer_GotFocus(CustomerText place);
     void cboAccounts_LostFocus();
