@@ -17,7 +17,6 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QStringListModel>
-#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -133,6 +132,9 @@ frmCustomer::frmCustomer(Office& theOffice, Screens& allScreens)
     MakeFoot();
     SetTabOrder();
     SetKeyFilters();
+    // The button goes down only after the field has been left.
+    behindLostFocus.setSingleShot(true);
+    connect(&behindLostFocus, &QTimer::timeout, this, &frmCustomer::ReleaseButtons);
 
     customers.Load();
     cboStates->addItems(customers.cboStates);
@@ -573,25 +575,23 @@ void frmCustomer::txtCustomer_LostFocus(CustomerText place) {
         Run([this] { customers.AcctNo_LostFocus(); });
     else if (place == CustomerText::BusinessName)
         Run([this] { customers.BusinessName_LostFocus(); });
-    ReleaseButtons();
+    behindLostFocus.start();
 }
 
 /// When a click on a button has brought up a message about the field before it, the message has
 /// taken the release of the mouse, and the button would stay down.
 void frmCustomer::ReleaseButtons() {
-    QTimer::singleShot(0, this, [this] {
-        if (QApplication::mouseButtons() != Qt::NoButton)
-            return;
-        for (auto* button : findChildren<QPushButton*>())
-            button->setDown(false);
-    });
+    if (QApplication::mouseButtons() != Qt::NoButton)
+        return;
+    for (auto* button : findChildren<QPushButton*>())
+        button->setDown(false);
 }
 
 void frmCustomer::cboAccounts_LostFocus() {
     if (isShowing || cboAccounts->isHidden())
         return;
     Run([this] { customers.cboAccounts_LostFocus(cboAccounts->currentText()); });
-    ReleaseButtons();
+    behindLostFocus.start();
 }
 
 void frmCustomer::cboAccounts_Click(int row) {

@@ -3,18 +3,15 @@
 #include "customers/CustomerSelection.h"
 #include "platform/Screen.h"
 
-#include <array>
+#include <QTimer>
+
 #include <functional>
 #include <map>
 
-class Card;
 class Office;
-class QAbstractButton;
 class QComboBox;
-class QGridLayout;
 class QLabel;
 class QPushButton;
-class QSlider;
 class Screens;
 class TextBox;
 
@@ -91,6 +88,7 @@ private:
     CustomerSelection& customers;
     /// While the screen shows what a rule has done, no field is left by the operator.
     bool isShowing = false;
+    QTimer behindLostFocus;
 
     std::map<CustomerText, TextBox*> txtCustomer;
     TextBox* txtAdd3 = nullptr;

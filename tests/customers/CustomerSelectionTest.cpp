@@ -3,6 +3,8 @@
 #include "customers/SampleCustomers.h"
 #include "support/OfficeTest.h"
 
+#include <QFile>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -575,6 +577,19 @@ TEST_F(CustomerSelectionTest, SaveOnAFullDiskFailsAndNamesTheFile) {
         << failure.what();
     EXPECT_EQ(folder.Read(contractFile), siblings.first);
     EXPECT_EQ(folder.Read(cycleFile), siblings.second);
+}
+
+TEST_F(CustomerSelectionTest, UnwritableContractFileFailsBehindTheCustomersWrite) {
+    LoadThree();
+    ASSERT_TRUE(QFile::setPermissions(folder.PathOf(contractFile), QFile::ReadOwner));
+    DropRootRights(folder);
+    Text(CustomerText::Address1) = u"1 New Road"_s;
+    const RuntimeFailure failure = FailureOf([&] { customers.SaveCustomer(); });
+    EXPECT_EQ(failure.Kind(), FailureKind::PermissionDenied);
+    EXPECT_TRUE(failure.Sentence().contains(contractFile)) << failure.what();
+    EXPECT_EQ(CustomerOnDisk(1).mid(65, 10), "1 New Road");
+    EXPECT_EQ(folder.Read(contractFile), Siblings(3, 386));
+    EXPECT_EQ(folder.Read(cycleFile), Siblings(3, 69));
 }
 
 // Lists

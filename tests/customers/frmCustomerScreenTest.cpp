@@ -295,6 +295,20 @@ TEST_F(CustomerScreen, NumberIsCheckedBeforeAButtonThatIsPressedByItsLetter) {
     EXPECT_EQ(CustomerOnDisk(1).left(20), "77                  ");
 }
 
+TEST_F(CustomerScreen, ButtonThatAMessageHasLeftDownComesUp) {
+    OpenThree();
+    Enter(0, u"77"_s);
+    user.ExpectQuestion(
+        u"The Account Number is a duplicate\nClick Yes to Replace it\nEnter a different Number"_s,
+        u"Duplicate Account Number"_s, Answer::Yes);
+    // As when the message takes the release of the mouse.
+    Button(u"cmdNav(2)"_s)->setDown(true);
+    Press(Text(0), Qt::Key_Tab);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !Button(u"cmdNav(2)"_s)->isDown(); }));
+    EXPECT_EQ(Shown(1), u"Corner Grocery"_s);
+    EXPECT_EQ(Focused(), u"txtCustomer(0)"_s);
+}
+
 TEST_F(CustomerScreen, ShortNameIsToldWhenItsFieldIsLeft) {
     OpenThree();
     Enter(1, u"X"_s);
