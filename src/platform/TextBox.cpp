@@ -14,6 +14,16 @@ constexpr int noLimit = 32767;
 TextBox::TextBox(int typedLimit, QWidget* parent)
     : QLineEdit(parent), limit(typedLimit > 0 ? typedLimit : noLimit) {
     setMaxLength(limit);
+    connect(this, &QLineEdit::textEdited, this, &TextBox::Limit);
+}
+
+/// Once a longer text has been shortened to it, the limit counts again.
+void TextBox::Limit(const QString& text) {
+    if (maxLength() == limit || text.size() > limit)
+        return;
+    const int caret = cursorPosition();
+    setMaxLength(limit);
+    setCursorPosition(caret);
 }
 
 void TextBox::Show(const QString& text) {

@@ -25,6 +25,8 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void Limit(const QString& text);
+
     int limit;
 };
 
