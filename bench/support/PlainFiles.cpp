@@ -56,6 +56,19 @@ std::string PlainRead(const std::string& path) {
     return {buffer.data(), count};
 }
 
+void PlainReadRecords(const std::string& path, size_t recordLength,
+                      const std::function<void(const char* record)>& use) {
+    std::vector<char> record(recordLength);
+    const int file = Open(path, O_RDONLY);
+    for (off_t start = 0;; start += off_t(recordLength)) {
+        const ssize_t count = Checked(::pread(file, record.data(), recordLength, start), path);
+        if (size_t(count) < recordLength)
+            break;
+        use(record.data());
+    }
+    ::close(file);
+}
+
 void PlainWrite(const std::string& path, const std::string& bytes) {
     const int file = Open(path, O_WRONLY | O_CREAT | O_TRUNC);
     Checked(::write(file, bytes.data(), bytes.size()), path);

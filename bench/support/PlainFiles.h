@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,9 @@ std::vector<std::string> PlainList(const std::string& folder);
 void PlainOpenAndClose(const std::string& path);
 /// At most 8,192 bytes: more than any file of the benchmarks has.
 std::string PlainRead(const std::string& path);
+/// Each record of a file of fixed records, read one by one.
+void PlainReadRecords(const std::string& path, size_t recordLength,
+                      const std::function<void(const char* record)>& use);
 void PlainWrite(const std::string& path, const std::string& bytes);
 void PlainRemove(const std::string& path);
 void PlainRename(const std::string& from, const std::string& to);

@@ -174,6 +174,8 @@ void RegionalFormats::TakeDateForm(const QLocale& locale) {
     if (!numeric || !IsInCodePage(form))
         form = u"yyyy-MM-dd"_s;
     dateForm = form;
+    for (size_t i = 0; i < weekdays.size(); ++i)
+        weekdays[i] = locale.dayName(int(i) + 1);
 
     QList<std::pair<qsizetype, QChar>> places;
     for (const QChar part : {u'd', u'M', u'y'})
@@ -237,6 +239,10 @@ void RegionalFormats::TakeMoneyForm(const QLocale& locale) {
         lastGroup = int(groups.last().size());
         otherGroups = int(groups[groups.size() - 2].size());
     }
+}
+
+const QString& RegionalFormats::WeekdayName(QDate date) const {
+    return weekdays.at(size_t(date.dayOfWeek() - 1));
 }
 
 QString RegionalFormats::ShortDate(QDate date) const {

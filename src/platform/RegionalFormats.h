@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <QString>
 
+#include <array>
 #include <optional>
 
 /// The machine's regional short date and currency forms. They are both what the screens show and
@@ -26,6 +27,8 @@ public:
     QString ShortDate(QDate date) const;
     /// The form of the short date in the toolkit's letters, for example "M/d/yyyy".
     const QString& DateForm() const { return dateForm; }
+    /// The day of the week in the region's language: "Wednesday", "Mittwoch".
+    const QString& WeekdayName(QDate date) const;
     /// A date in the regional order, or as yyyy-mm-dd. Nothing when the text is no such date.
     std::optional<QDate> ParseDate(QStringView text) const;
 
@@ -49,6 +52,8 @@ private:
 
     QString dateForm;
     QString dateOrder;
+    /// From Monday on.
+    std::array<QString, 7> weekdays;
     QString symbol;
     QString positivePrefix;
     QString positiveSuffix;

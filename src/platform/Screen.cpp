@@ -30,8 +30,9 @@ QFrame* MakeBand(const QString& name) {
 
 } // namespace
 
-Screen::Screen(const QString& name, const QString& title, const QString& windowLayoutKey)
-    : layoutKey(windowLayoutKey) {
+Screen::Screen(const QString& name, const QString& title, const QString& layoutKey,
+               const QString& saveKey)
+    : restoredFrom(layoutKey), savedUnder(saveKey.isEmpty() ? layoutKey : saveKey) {
     setObjectName(name);
     setWindowTitle(title);
 
@@ -54,12 +55,12 @@ Screen::Screen(const QString& name, const QString& title, const QString& windowL
 
 Screen::~Screen() {
     if (isVisible())
-        WindowLayout::Save(*this, layoutKey);
+        WindowLayout::Save(*this, savedUnder);
 }
 
 void Screen::BringUp() {
     if (!isVisible())
-        WindowLayout::Restore(*this, layoutKey);
+        WindowLayout::Restore(*this, restoredFrom);
     show();
     raise();
     activateWindow();
@@ -124,7 +125,7 @@ void Screen::closeEvent(QCloseEvent* event) {
 }
 
 void Screen::hideEvent(QHideEvent* event) {
-    WindowLayout::Save(*this, layoutKey);
+    WindowLayout::Save(*this, savedUnder);
     QMainWindow::hideEvent(event);
 }
 

@@ -15,9 +15,12 @@ class Screen : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// Screens with the same layout key follow each other in the same place.
+    /// `layoutKey` is the key under which the window's layout is kept; screens with the same one
+    /// stand in the same place. One that keeps its layout under another key than it restores it
+    /// from has a `saveKey`.
     Screen(const QString& name, const QString& title,
-           const QString& windowLayoutKey = QStringLiteral("TesselDelivery"));
+           const QString& layoutKey = QStringLiteral("TesselDelivery"),
+           const QString& saveKey = {});
     ~Screen() override;
 
     /// Shows the screen in front, where the one before it stood.
@@ -48,7 +51,8 @@ private:
     QWidget* MakeHead(const QString& caption);
     QWidget* MakeFoot();
 
-    const QString layoutKey;
+    QString restoredFrom;
+    QString savedUnder;
     QLabel* captionLabel = nullptr;
     QLabel* where = nullptr;
     QWidget* body = nullptr;

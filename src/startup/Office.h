@@ -1,5 +1,7 @@
 #pragma once
 
+#include "customers/CustomerFiles.h"
+#include "customers/CustomerSelection.h"
 #include "platform/Clock.h"
 #include "platform/Operator.h"
 #include "platform/Picture.h"
@@ -17,6 +19,7 @@
 #include "setup/PrintLook.h"
 #include "setup/SettingsStore.h"
 #include "setup/SetupRoutines.h"
+#include "slips/DeliveryCustomer.h"
 #include "slips/DeliverySlipRoutines.h"
 #include "slips/VehicleFleet.h"
 #include "store/BasicDiskRoutines.h"
@@ -57,6 +60,9 @@ public:
     ScheduleBoard board;
     PrinterRoutines printer;
     DeliverySchedulePrinter schedulePrinter;
+    CustomerFiles customerFiles;
+    DeliveryCustomer deliveryCustomer;
+    CustomerSelection customers;
     /// The menu routine clicked last; what comes after selecting a customer depends on it.
     qint16 MenuChoice = 0;
 };

@@ -1,5 +1,6 @@
 #include "startup/Screens.h"
 
+#include "customers/frmCustomer.h"
 #include "products/frmServices.h"
 #include "schedule/frmPrintSchedules.h"
 #include "setup/frmHolidays.h"
@@ -23,7 +24,6 @@ Screens::~Screens() {
 bool Screens::IsBuilt(ScreenName name) {
     switch (name) {
     case ScreenName::frmWeekly:
-    case ScreenName::frmCustomer:
     case ScreenName::frmDelivery:
     case ScreenName::frmTaxForm:
     case ScreenName::frmSalesReport:
@@ -50,6 +50,8 @@ std::unique_ptr<Screen> Screens::Make(ScreenName name) {
         return std::make_unique<frmVehicle>(office, *this);
     case ScreenName::frmServices:
         return std::make_unique<frmServices>(office, *this);
+    case ScreenName::frmCustomer:
+        return std::make_unique<frmCustomer>(office, *this);
     default:
         return nullptr;
     }

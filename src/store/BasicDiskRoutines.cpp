@@ -486,6 +486,7 @@ off_t BasicDiskRoutines::StartOf(const Random& random, qint32 recordNumber, size
 void BasicDiskRoutines::ReadRecord(qint16 fileNumber, qint32 recordNumber, void* record,
                                    size_t size) {
     const Random& random = RandomOn(fileNumber);
+    // Put together for a failure alone: thousands of records are read one after the other.
     const auto operation = [&] {
         return u"Reading record %1 of %2"_s.arg(recordNumber).arg(random.name);
     };

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# A folder without data gets its folders and no file but the modem's, and the title screen does not let the operator
-# past its welcome panel: empty-folder-test.sh PROGRAM SAMPLEMAKER
+# A folder without data gets its folders and no file but the modem's, the operator is told that there
+# is no customer, and the title screen does not let him past its welcome panel:
+# empty-folder-test.sh PROGRAM SAMPLEMAKER
 
 # shellcheck source=tests/endtoend/play.sh
 source "$(dirname "${BASH_SOURCE[0]}")/play.sh"
@@ -49,6 +50,7 @@ BeginPlay
 mkdir "$business"
 StartPlay "$business"
 WaitForTitle
+AnswerNext 'Create Customers' Return
 # Until the bar has run through.
 sleep 1.5
 ExpectData

@@ -156,3 +156,13 @@ TEST_F(RegionalFormatsTest, LongTextIsAnsweredAtOnce) {
     EXPECT_EQ(Of("en_US").PlainNumber(QString(1'000'000, u'7') + u'x'), std::nullopt);
     EXPECT_EQ(Of("en_US").ParseDate(QString(1'000'000, u'7')), std::nullopt);
 }
+
+TEST_F(RegionalFormatsTest, DayOfTheWeekIsInTheLanguageOfTheDates) {
+    EXPECT_EQ(Of("en_US").WeekdayName(day), u"Monday"_s);
+    EXPECT_EQ(Of("en_US").WeekdayName({2026, 3, 15}), u"Sunday"_s);
+    EXPECT_EQ(Of("de_DE").WeekdayName({2026, 3, 18}), u"Mittwoch"_s);
+    qputenv("LC_TIME", "fr_FR.UTF-8");
+    EXPECT_EQ(RegionalFormats::OfMachine().WeekdayName(day), u"lundi"_s);
+    qputenv("LC_TIME", "C");
+    EXPECT_EQ(RegionalFormats::OfMachine().WeekdayName(day), u"Monday"_s);
+}

@@ -49,9 +49,15 @@ protected:
             names += grid.Text(row, descriptionColumn);
         return names;
     }
+    /// The customer screen is made, and there is no customer.
+    void ExpectNoCustomers() {
+        user.ExpectMessage(u"Your Customer File is Empty\nCreate your First Customer Now"_s,
+                           u"Create Customers"_s);
+    }
 };
 
 TEST_F(StartUpSequence, EmptyFolderGetsItsFoldersAndNoFileButTheModemsPort) {
+    ExpectNoCustomers();
     Main(office, screens);
     const QStringList folders = {u"2026/"_s,
                                  u"AuxFiles/"_s,
@@ -79,6 +85,7 @@ TEST_F(StartUpSequence, ThreePastRecurringSlipsAskThreeQuestionsAndMoveOn) {
         user.ExpectQuestion(question, questionTitle, Answer::No);
         user.ExpectMessage(moved);
     }
+    ExpectNoCustomers();
     Main(office, screens);
     for (const QString& number : {u"1"_s, u"2"_s, u"3"_s})
         EXPECT_TRUE(
@@ -89,6 +96,7 @@ TEST_F(StartUpSequence, SettingsFileOverrulesTheOtherTwo) {
     folder.Write(u"Settings.txt"_s, "8\r\n7\r\n#FALSE#\r\n#FALSE#\r\n#FALSE#\r\n");
     folder.Write(u"WorkDays.txt"_s, "5\r\n");
     folder.Write(u"Prompts.txt"_s, "#TRUE#,#TRUE#\r\n");
+    ExpectNoCustomers();
     Main(office, screens);
     EXPECT_EQ(office.settings.WorkWeek, 7);
     EXPECT_EQ(office.settings.shownWorkWeek, 5);
@@ -102,6 +110,7 @@ TEST_F(StartUpSequence, VehiclesAndItemsAreThereWhenTheMenuComes) {
     folder.Write(u"NXInventoriedItems.txt"_s, PricedItemBytes("Milk"));
     folder.Write(u"NonInventoriedItems.txt"_s,
                  NonPricedItemBytes("Leaflet") + NonPricedItemBytes("Crate"));
+    ExpectNoCustomers();
     Main(office, screens);
     EXPECT_EQ(office.fleet.Names.stringList(), QStringList{u"Van 2"_s});
     EXPECT_EQ(office.items.ProductNames.stringList(), QStringList{u"Milk"_s});
@@ -111,6 +120,7 @@ TEST_F(StartUpSequence, VehiclesAndItemsAreThereWhenTheMenuComes) {
 }
 
 TEST_F(StartUpSequence, VehicleScreenIsMadeUnseenBehindTheMenuAndLoadsTheVehicles) {
+    ExpectNoCustomers();
     Main(office, screens);
     EXPECT_NE(screens.Find(ScreenName::frmVehicle), nullptr);
     EXPECT_FALSE(IsShown(ScreenName::frmVehicle));
@@ -118,6 +128,7 @@ TEST_F(StartUpSequence, VehicleScreenIsMadeUnseenBehindTheMenuAndLoadsTheVehicle
 }
 
 TEST_F(StartUpSequence, TooManyVehiclesStopBehindTheMenu) {
+    ExpectNoCustomers();
     folder.Write(u"Vehicles.txt"_s, QByteArray(137 * 256, ' '));
     const RuntimeFailure failure = FailureOf([&] { Main(office, screens); });
     EXPECT_EQ(failure.Kind(), FailureKind::Overflow);
@@ -130,6 +141,7 @@ TEST_F(StartUpSequence, TooManyVehiclesStopBehindTheMenu) {
 TEST_F(StartUpSequence, ItemFilesLostButInBackupAreBroughtBackAndLoaded) {
     folder.Write(u"Backup/NXInventoriedItems.txt"_s, PricedItemBytes("Milk"));
     folder.Write(u"Backup/NonInventoriedItems.txt"_s, NonPricedItemBytes("Leaflet"));
+    ExpectNoCustomers();
     Main(office, screens);
     EXPECT_EQ(folder.Read(u"NXInventoriedItems.txt"_s), PricedItemBytes("Milk"));
     EXPECT_EQ(folder.Read(u"NonInventoriedItems.txt"_s), NonPricedItemBytes("Leaflet"));
@@ -137,7 +149,30 @@ TEST_F(StartUpSequence, ItemFilesLostButInBackupAreBroughtBackAndLoaded) {
     EXPECT_EQ(AddItemNames(), (QStringList{u"Milk"_s, u"Leaflet"_s}));
 }
 
+TEST_F(StartUpSequence, EmptyCustomerFileIsToldOverTheTitleScreenBeforeTheMenuIsMade) {
+    WatchingOperator watcher;
+    Office watched(folder.Path(), {clock, watcher, printer, browser, pictures});
+    Screens itsScreens(watched);
+    watcher.Watched = &itsScreens;
+    watcher.ExpectMessage(u"Your Customer File is Empty\nCreate your First Customer Now"_s,
+                          u"Create Customers"_s);
+    Main(watched, itsScreens);
+    EXPECT_TRUE(watcher.SplashWasUp);
+    EXPECT_TRUE(watcher.BoardWasMade);
+    EXPECT_FALSE(watcher.MenuWasMade);
+    ASSERT_NE(itsScreens.Find(ScreenName::frmCustomer), nullptr);
+    EXPECT_FALSE(itsScreens.Find(ScreenName::frmCustomer)->isVisible());
+}
+
+TEST_F(StartUpSequence, StartRebuildsTheFilesThatBelongToTheCustomers) {
+    folder.Write(u"CustomerData.txt"_s, QByteArray(2 * 328, ' '));
+    Main(office, screens);
+    EXPECT_EQ(folder.Read(u"ContractInfo.txt"_s), QByteArray(2 * 386, '\0'));
+    EXPECT_EQ(folder.Read(u"CycleInfo.txt"_s), QByteArray(2 * 69, '\0'));
+}
+
 TEST_F(StartUpSequence, QuestionsComeOverTheTitleScreenBehindTheBoardAndBeforeTheMenuIsMade) {
+    folder.Write(u"CustomerData.txt"_s, {});
     WriteSlip(folder, {.number = u"7"_s, .date = u"3/6/2026"_s, .recurring = u"False"_s});
     WatchingOperator watcher;
     Office watched(folder.Path(), {clock, watcher, printer, browser, pictures});

@@ -226,7 +226,7 @@ TEST_F(StartupScreen, ProductsRoutineShowsTheProducts) {
 TEST_F(StartupScreen, RoutineWithoutAScreenLeavesTheOperatorOnTheMenu) {
     WriteMasterFiles();
     screens.Show(menu);
-    for (const int i : {1, 2, 5, 7, 8, 9}) {
+    for (const int i : {1, 7, 8, 9}) {
         user.ExpectMessage(notBuilt);
         Click(menu, u"lblSub(%1)"_s.arg(i));
         EXPECT_EQ(office.MenuChoice, i);
@@ -288,6 +288,18 @@ TEST_F(StartupScreen, DeletingTheLastVehicleLeadsBackToTheVehicles) {
     Click(vehicles, u"cmdServices(0)"_s);
     EXPECT_EQ(Open(), (QList<int>{4, 7, 8, 9}));
     EXPECT_TRUE(IsShown(vehicles));
+}
+
+TEST_F(StartupScreen, MaintenanceAndDeliveryBothOpenTheCustomersAndSayWhich) {
+    WriteMasterFiles();
+    for (const int i : {2, 5}) {
+        screens.Show(menu);
+        Click(menu, u"lblSub(%1)"_s.arg(i));
+        EXPECT_EQ(office.MenuChoice, i);
+        EXPECT_TRUE(IsShown(ScreenName::frmCustomer));
+        EXPECT_FALSE(IsShown(menu));
+        screens.Hide(ScreenName::frmCustomer);
+    }
 }
 
 TEST_F(StartupScreen, DoubleClickOnTheNoteActsAsRoutineOne) {

@@ -1,0 +1,108 @@
+#include "customers/CustomerRecords.h"
+#include "support/BenchOffice.h"
+#include "support/Comparison.h"
+#include "support/PlainFiles.h"
+
+#include <QRandomGenerator>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The most that the program takes.
+constexpr int customers = 32'767;
+/// Thousands of cities, as a business with customers all over the country has.
+constexpr quint32 cities = 4'000;
+
+/// Every second one a person, with names in no order.
+CustomerRecord RecordOf(int number, QRandomGenerator& random) {
+    CustomerRecord record{};
+    const auto name = [&random] {
+        return u"N"_s + QString::number(random.bounded(1'000'000'000), 36) + u" Trading"_s;
+    };
+    record.AcctNo = QString::number(100'000 + number);
+    record.BusinessName = name();
+    record.Address1 = u"12 Mill Road"_s;
+    record.City = u"City "_s + QString::number(random.bounded(cities));
+    record.FirstName = u"Ann"_s;
+    record.LastName = name();
+    record.AcctType = number % 2 == 0 ? u"Individual"_s : u"Business"_s;
+    return record;
+}
+
+/// A data folder with as many customers as can be, loaded.
+class ManyCustomers {
+public:
+    ManyCustomers() {
+        QRandomGenerator random(7);
+        BasicDiskRoutines& disk = office.rules.disk;
+        OpenCustomerFile(disk);
+        for (int number = 1; number <= customers; ++number)
+            WriteRecord(disk, disk.DiskFile, number, RecordOf(number, random));
+        disk.CloseAllFiles();
+        office.rules.customers.Load();
+    }
+
+    CustomerSelection& Screen() { return office.rules.customers; }
+    CustomerFiles& Files() { return office.rules.customerFiles; }
+    const std::string& Path() const { return path; }
+
+private:
+    BenchFolder folder;
+    BenchOffice office{folder.Path()};
+    const std::string path = folder.Path().toStdString() + "/CustomerData.txt";
+};
+
+void ReadAndSortNames(const std::string& path) {
+    std::vector<std::string> names;
+    names.reserve(customers);
+    PlainReadRecords(path, sizeof(CustomerRecord), [&](const char* bytes) {
+        const auto* record = reinterpret_cast<const CustomerRecord*>(bytes);
+        names.emplace_back(record->BusinessName.bytes.data(), record->BusinessName.bytes.size());
+    });
+    std::sort(names.begin(), names.end());
+    benchmark::DoNotOptimize(names.data());
+}
+
+} // namespace
+
+static void ListAccounts(benchmark::State& state) {
+    ManyCustomers many;
+    if (many.Screen().cboAccounts.rowCount() != customers) {
+        state.SkipWithError("The list has not all customers.");
+        return;
+    }
+    CompareWithFloor(
+        state,
+        {"Listing 32,767 accounts against reading their records and sorting their names", 3.0},
+        [&] { return SecondsOf([&] { many.Screen().ListAccounts(); }); },
+        [&] { return SecondsOf([&] { ReadAndSortNames(many.Path()); }); });
+}
+BENCHMARK(ListAccounts)->UseManualTime()->Iterations(21)->Unit(benchmark::kMillisecond);
+
+static void FindDuplicateAccount(benchmark::State& state) {
+    ManyCustomers many;
+    const QString none = u"no such number"_s;
+    if (many.Files().IsDuplicate(none, customers, 1) ||
+        !many.Files().IsDuplicate(QString::number(100'000 + customers), customers, 1)) {
+        state.SkipWithError("The search does not tell a duplicate from none.");
+        return;
+    }
+    CompareWithFloor(
+        state, {"Searching 32,767 accounts for a duplicate against reading their records", 1.5},
+        [&] {
+            return SecondsOf(
+                [&] { benchmark::DoNotOptimize(many.Files().IsDuplicate(none, customers, 1)); });
+        },
+        [&] {
+            return SecondsOf([&] {
+                PlainReadRecords(many.Path(), sizeof(CustomerRecord),
+                                 [](const char* bytes) { benchmark::DoNotOptimize(*bytes); });
+            });
+        });
+}
+BENCHMARK(FindDuplicateAccount)->UseManualTime()->Iterations(21)->Unit(benchmark::kMillisecond);

@@ -1,0 +1,621 @@
+#include "customers/frmCustomer.h"
+
+#include "platform/KeyFilter.h"
+#include "platform/TextBox.h"
+#include "platform/Theme.h"
+#include "startup/Office.h"
+#include "startup/Screens.h"
+#include "store/VerifyDataRoutines.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFocusEvent>
+#include <QGridLayout>
+#include <QLabel>
+#include <QListView>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSlider>
+#include <QStringListModel>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <iterator>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int bodySide = 20;
+constexpr int bodyTop = 14;
+constexpr int rowGap = 8;
+constexpr double labelWidth = 5.5;
+constexpr double numberWidth = 13;
+constexpr double addressWidth = 21;
+constexpr double cityWidth = 16;
+constexpr double stateWidth = 4.5;
+constexpr double postalWidth = 7;
+constexpr double phoneWidth = 9;
+constexpr double titleWidth = 6.4;
+constexpr double firstNameWidth = 9;
+constexpr double lastNameWidth = 12;
+constexpr double initialWidth = 2.6;
+constexpr double pictureSize = 1.3;
+constexpr int namesInPopup = 16;
+
+/// The place behind the area code and exchange that the program proposes.
+constexpr qsizetype proposedPhone = 8;
+
+const QString laterVersion = u"Not part of this version yet"_s;
+
+QLabel* FormLabel(const QString& text, QWidget* field) {
+    auto* label = new QLabel(text);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label->setMinimumWidth(Em(labelWidth));
+    label->setBuddy(field);
+    return label;
+}
+
+/// The rows of a form. Forms that stand one over the other have their labels in one line.
+QGridLayout* MakeForm(QWidget* parent = nullptr) {
+    auto* form = new QGridLayout(parent);
+    form->setContentsMargins({});
+    form->setHorizontalSpacing(rowGap);
+    form->setVerticalSpacing(rowGap);
+    form->setColumnStretch(1, 1);
+    return form;
+}
+
+void AddRow(QGridLayout* form, const QString& label, QWidget* field, QWidget* buddy) {
+    const int row = form->count() / 2;
+    form->addWidget(FormLabel(label, buddy), row, 0);
+    form->addWidget(field, row, 1, Qt::AlignLeft | Qt::AlignVCenter);
+}
+
+void AddRow(QGridLayout* form, const QString& label, QWidget* field) {
+    AddRow(form, label, field, field);
+}
+
+QWidget* RowOf(std::initializer_list<QWidget*> controls) {
+    auto* block = new QWidget;
+    auto* row = new QHBoxLayout(block);
+    row->setContentsMargins({});
+    row->setSpacing(rowGap);
+    for (QWidget* control : controls)
+        row->addWidget(control);
+    row->addStretch(1);
+    return block;
+}
+
+QLabel* SoftLabel(const QString& text) {
+    auto* label = new QLabel(text);
+    label->setProperty("soft", true);
+    return label;
+}
+
+void PutOff(QWidget* control) {
+    control->setEnabled(false);
+    control->setToolTip(laterVersion);
+}
+
+QToolButton* MakeDialButton() {
+    auto* dial = Named(new QToolButton, Indexed(u"Image1"_s, 1));
+    const QSize size(Em(pictureSize), Em(pictureSize));
+    dial->setIcon(LineIcon(u"phone"_s, Theme::Current().softText, size, dial->devicePixelRatioF()));
+    dial->setIconSize(size);
+    dial->setAccessibleName(u"Call Selected Account"_s);
+    PutOff(dial);
+    return dial;
+}
+
+} // namespace
+
+frmCustomer::frmCustomer(Office& theOffice, Screens& allScreens)
+    : Screen(u"frmCustomer"_s, u"Customer Selection       "_s, u"TesselDelivery"_s,
+             u"TesselCycleInvoicer"_s),
+      office(theOffice), screens(allScreens), customers(theOffice.customers) {
+    MakeMenus();
+    auto* side = new QVBoxLayout;
+    side->setSpacing(cardGap);
+    auto* account = MakeAccountCard();
+    side->addWidget(MakeFindCard());
+    side->addWidget(MakeMoveCard());
+    side->addStretch(1);
+    auto* main = new QVBoxLayout;
+    main->addWidget(account);
+    main->addStretch(1);
+    auto* columns = new QHBoxLayout(Body());
+    columns->setContentsMargins(bodySide, bodyTop, bodySide, bodyTop);
+    columns->setSpacing(cardGap);
+    columns->addLayout(main, 1);
+    columns->addLayout(side);
+    MakeFoot();
+    SetTabOrder();
+    SetKeyFilters();
+    // The button goes down only after the field has been left.
+    behindLostFocus.setSingleShot(true);
+    connect(&behindLostFocus, &QTimer::timeout, this, &frmCustomer::ReleaseButtons);
+
+    customers.Load();
+    cboStates->addItems(customers.cboStates);
+    ShowFields();
+}
+
+void frmCustomer::Activate() {
+    Run([this] { customers.TakeAddressStyle(); });
+}
+
+QAction* frmCustomer::AddItem(QMenu* menu, const QString& name, const QString& caption,
+                              const std::function<void()>& action) {
+    QAction* item = Named(menu->addAction(caption), name);
+    if (action) {
+        connect(item, &QAction::triggered, this, [this, action] { Run(action); });
+    } else {
+        item->setEnabled(false);
+        item->setToolTip(laterVersion);
+    }
+    return item;
+}
+
+void frmCustomer::MakeMenus() {
+    QMenu* menu = menuBar()->addMenu(u"Customer"_s);
+    menu->setToolTipsVisible(true);
+    mnuAdd =
+        AddItem(menu, u"mnuAdd"_s, u"Add a New Customer"_s, [this] { customers.AddNewCustomer(); });
+    mnuDelete = AddItem(menu, u"mnuDelete"_s, u"DELETE This customer"_s,
+                        [this] { customers.DeleteCustomer(); });
+    menu->addSeparator();
+    AddItem(menu, u"mnuPrint"_s, u"Print Customers"_s, {});
+    AddItem(menu, u"mnuAux"_s, u"Toggle Data Window"_s, {});
+}
+
+QPushButton* frmCustomer::MakeButton(const QString& name, const QString& caption,
+                                     const std::function<void()>& action) {
+    auto* button = Named(new QPushButton(caption), name);
+    button->setAutoDefault(true);
+    connect(button, &QPushButton::clicked, this, [this, button, action] {
+        // A button that is pressed by its letter leaves the field before it, as a click does.
+        button->setFocus(Qt::ShortcutFocusReason);
+        action();
+    });
+    return button;
+}
+
+void frmCustomer::MakeFoot() {
+    const auto make = [this](Button index, const QString& caption) {
+        cmdCustomer[index] = MakeButton(Indexed(u"cmdCustomer"_s, index), caption,
+                                        [this, index] { cmdCustomer_Click(index); });
+        return cmdCustomer[index];
+    };
+    AddWayBack(make(Menu, u"&Menu"_s));
+    AddAction(make(CancelAddNew, u"Cancel Add &New"_s));
+    cmdNew = MakeButton(u"cmdNew"_s, u"Add New Customer"_s,
+                        [this] { Run([this] { customers.AddNewCustomer(); }); });
+    AddAction(cmdNew);
+    AddMainAction(make(Select, u"&Select this Account Start Routine"_s));
+}
+
+TextBox* frmCustomer::MakeText(CustomerText place, const QString& accessibleName, double width,
+                               int limit) {
+    auto* text = Named(new TextBox(limit), Indexed(u"txtCustomer"_s, int(place)));
+    text->setAccessibleName(accessibleName);
+    text->setFixedWidth(Em(width));
+    connect(text, &TextBox::GotFocus, this, [this, place] { txtCustomer_GotFocus(place); });
+    connect(text, &TextBox::LostFocus, this, [this, place] { txtCustomer_LostFocus(place); });
+    txtCustomer[place] = text;
+    return text;
+}
+
+QComboBox* frmCustomer::MakeCombo(const QString& name, const QString& accessibleName) {
+    auto* combo = Named(new QComboBox, name);
+    combo->setEditable(true);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->setMaxVisibleItems(namesInPopup);
+    combo->setAccessibleName(accessibleName);
+    combo->installEventFilter(this);
+    return combo;
+}
+
+QWidget* frmCustomer::MakeAccountCard() {
+    auto* card = new Card(u"Account Data"_s);
+    card->Rows()->addWidget(MakeTypeRow());
+
+    auto* form = MakeForm();
+    AddRow(form, u"Account No"_s, MakeText(CustomerText::AcctNo, u"Account No"_s, numberWidth, 20));
+    QWidget* names = MakeNameRow();
+    AddRow(form, u"Name"_s, names, Text(CustomerText::BusinessName));
+    AddRow(form, u"Address 1"_s,
+           MakeText(CustomerText::Address1, u"Address 1"_s, addressWidth, 35));
+    AddRow(form, u"Address 2"_s,
+           MakeText(CustomerText::Address2, u"Address 2"_s, addressWidth, 25));
+    card->Rows()->addLayout(form);
+    card->Rows()->addWidget(MakeUsAddress());
+    card->Rows()->addWidget(MakeInternationalAddress());
+
+    auto* reached = MakeForm();
+    QWidget* phone = MakePhoneRow();
+    AddRow(reached, u"Telephone"_s, phone, Text(CustomerText::Phone));
+    AddRow(reached, u"Cell"_s, MakeText(CustomerText::Cell, u"Cell"_s, phoneWidth, 12));
+    AddRow(reached, u"E-mail"_s, MakeText(CustomerText::Email, u"E-mail"_s, addressWidth, 30));
+    card->Rows()->addLayout(reached);
+    return card;
+}
+
+QWidget* frmCustomer::MakeTypeRow() {
+    auto* block = new QWidget;
+    auto* form = MakeForm(block);
+    lblLType = Named(new QLabel, u"lblLType"_s);
+    lblLType->setProperty("strong", true);
+    cmdAcctType = MakeButton(u"cmdAcctType"_s, u"Toggle Account Type"_s,
+                             [this] { Run([this] { customers.ToggleAccountType(); }); });
+    lblLType->setMinimumWidth(Em(labelWidth));
+    AddRow(form, u"Type"_s, RowOf({lblLType, cmdAcctType}), cmdAcctType);
+    return block;
+}
+
+QWidget* frmCustomer::MakeNameRow() {
+    cboTitle = MakeCombo(u"cboTitle"_s, u"Title"_s);
+    cboTitle->addItems(CustomerSelection::Titles());
+    cboTitle->setCompleter(nullptr);
+    cboTitle->setFixedWidth(Em(titleWidth));
+    cboTitle->lineEdit()->setPlaceholderText(u"Title"_s);
+    auto* first = MakeText(CustomerText::FirstName, u"First name"_s, firstNameWidth, 15);
+    auto* middle = MakeText(CustomerText::MiddleInitial, u"Middle initial"_s, initialWidth, 1);
+    auto* last = MakeText(CustomerText::LastName, u"Last name"_s, lastNameWidth, 25);
+    first->setPlaceholderText(u"First name"_s);
+    middle->setPlaceholderText(u"MI"_s);
+    last->setPlaceholderText(u"Last name"_s);
+    auto* business =
+        MakeText(CustomerText::BusinessName, u"Name of the business"_s, addressWidth, 30);
+    MakeAccountList();
+    return RowOf({business, cboTitle, first, middle, last, cboAccounts});
+}
+
+void frmCustomer::MakeAccountList() {
+    cboAccounts = MakeCombo(u"cboAccounts"_s, u"Customer by name"_s);
+    cboAccounts->setModel(&customers.cboAccounts);
+    cboAccounts->setFixedWidth(Em(addressWidth));
+    cboAccounts->lineEdit()->setPlaceholderText(u"Type the first letters of a name"_s);
+    static_cast<QListView*>(cboAccounts->view())->setUniformItemSizes(true);
+    connect(cboAccounts, &QComboBox::activated, this, &frmCustomer::cboAccounts_Click);
+    connect(cboAccounts->lineEdit(), &QLineEdit::returnPressed, this,
+            &frmCustomer::cboAccounts_LostFocus);
+}
+
+QWidget* frmCustomer::MakeUsAddress() {
+    fraUSAddress = Named(new QWidget, u"fraUSAddress"_s);
+    cboCity = MakeCombo(u"cboCity"_s, u"City"_s);
+    cboCity->setModel(&customers.cboCity);
+    // What is typed is the city, also when a longer one begins with it.
+    cboCity->setCompleter(nullptr);
+    cboCity->setFixedWidth(Em(cityWidth));
+    cboStates = MakeCombo(u"cboStates"_s, u"State"_s);
+    cboStates->setCompleter(nullptr);
+    cboStates->setFixedWidth(Em(stateWidth));
+    auto* postal = MakeText(CustomerText::PostalCode, u"Zip Code"_s, postalWidth, 10);
+    auto* form = MakeForm(fraUSAddress);
+    AddRow(form, u"City"_s, cboCity);
+    AddRow(form, u"State"_s, RowOf({cboStates, FormLabel(u"Zip Code"_s, postal), postal}),
+           cboStates);
+    return fraUSAddress;
+}
+
+QWidget* frmCustomer::MakeInternationalAddress() {
+    fraIntAddress = Named(new QWidget, u"fraIntAddress"_s);
+    txtAdd3 = Named(new TextBox, u"txtAdd3"_s);
+    txtAdd4 = Named(new TextBox, u"txtAdd4"_s);
+    auto* form = MakeForm(fraIntAddress);
+    AddRow(form, u"Address 3"_s, txtAdd3);
+    AddRow(form, u"Address 4"_s, txtAdd4);
+    txtAdd3->setFixedWidth(Em(addressWidth));
+    txtAdd4->setFixedWidth(Em(addressWidth));
+    return fraIntAddress;
+}
+
+QWidget* frmCustomer::MakePhoneRow() {
+    return RowOf({MakeText(CustomerText::Phone, u"Telephone"_s, phoneWidth, 12), MakeDialButton()});
+}
+
+QWidget* frmCustomer::MakeFindCard() {
+    auto* card = new Card(u"Find a Customer"_s);
+    const auto add = [&](FindButton index, const QString& caption,
+                         const std::function<void()>& rule) {
+        Command1[index] =
+            MakeButton(Indexed(u"Command1"_s, index), caption, [this, rule] { Run(rule); });
+        card->Rows()->addWidget(Command1[index]);
+    };
+    add(SearchByCriteria, u"&Search by Criteria,such as Street Address"_s, {});
+    add(FindInNameList, u"&Find Account in Name List Alphbetically"_s,
+        [this] { customers.FindInNameList(); });
+    add(SelectFromList, u"Select from &Account List"_s, [this] { customers.ShowRecordArea(); });
+    add(LocateInList, u"&Locate Account in Name List "_s, {});
+    PutOff(Command1[SearchByCriteria]);
+    PutOff(Command1[LocateInList]);
+    return card;
+}
+
+QPushButton* frmCustomer::MakeMove(Move move, const QString& caption, const QString& tip) {
+    auto* button = MakeButton(Indexed(u"cmdNav"_s, int(move)), caption,
+                              [this, move] { Run([this, move] { customers.MoveTo(move); }); });
+    button->setToolTip(tip);
+    button->setAccessibleName(tip);
+    cmdNav[move] = button;
+    return button;
+}
+
+QWidget* frmCustomer::MakeMoveCard() {
+    auto* card = new Card(u"Customer Records"_s);
+    auto* steps = new QHBoxLayout;
+    steps->addWidget(MakeMove(Move::First, u"|<<"_s, u"Selects 1st Customer Record"_s));
+    steps->addWidget(MakeMove(Move::Previous, u"<"_s, u"Selects Previous Customer Record"_s));
+    steps->addWidget(MakeMove(Move::Next, u">"_s, u"Selects Next Customer Record"_s));
+    steps->addWidget(MakeMove(Move::Last, u">>|"_s, u"Selects Last Customer Record"_s));
+    auto* jumps = new QHBoxLayout;
+    jumps->addWidget(MakeMove(Move::Quarter, u">"_s, u"Goes  1/4 into Customer Records"_s));
+    jumps->addWidget(MakeMove(Move::Half, u">>"_s, u"Goes 1/2 into Customer Records"_s));
+    jumps->addWidget(MakeMove(Move::ThreeQuarters, u">>>"_s, u"Goes 3/4 into Customer Record"_s));
+    card->Rows()->addLayout(steps);
+    card->Rows()->addWidget(SoftLabel(u"By quarters of the file"_s));
+    card->Rows()->addLayout(jumps);
+    card->Rows()->addWidget(MakeAutoAdvance());
+    return card;
+}
+
+QWidget* frmCustomer::MakeAutoAdvance() {
+    constexpr int shortestInterval = 250;
+    constexpr int longestInterval = 5000;
+    constexpr int firstInterval = 2500;
+    auto* button = Named(new QPushButton(u"Auto Advance Off"_s), Indexed(u"cmdNav"_s, autoAdvance));
+    PutOff(button);
+    auto* slider = Named(new QSlider(Qt::Horizontal), u"Slider1"_s);
+    slider->setRange(shortestInterval, longestInterval);
+    slider->setValue(firstInterval);
+    slider->setAccessibleName(u"Milliseconds between two customers"_s);
+    PutOff(slider);
+    auto* speed = new QHBoxLayout;
+    speed->addWidget(Named(SoftLabel(u"Slower"_s), Indexed(u"Label2"_s, 35)));
+    speed->addWidget(slider, 1);
+    speed->addWidget(Named(SoftLabel(u"Faster"_s), Indexed(u"Label2"_s, 36)));
+    auto* block = new QWidget;
+    auto* rows = new QVBoxLayout(block);
+    rows->setContentsMargins({});
+    rows->addWidget(button);
+    rows->addLayout(speed);
+    return block;
+}
+
+/// From the top of the record down, then the buttons beside it, then the foot.
+void frmCustomer::SetTabOrder() {
+    QWidget* const order[] = {cmdAcctType,
+                              Text(CustomerText::AcctNo),
+                              Text(CustomerText::BusinessName),
+                              cboTitle,
+                              Text(CustomerText::FirstName),
+                              Text(CustomerText::MiddleInitial),
+                              Text(CustomerText::LastName),
+                              cboAccounts,
+                              Text(CustomerText::Address1),
+                              Text(CustomerText::Address2),
+                              cboCity,
+                              cboStates,
+                              Text(CustomerText::PostalCode),
+                              txtAdd3,
+                              txtAdd4,
+                              Text(CustomerText::Phone),
+                              Text(CustomerText::Cell),
+                              Text(CustomerText::Email),
+                              Command1[FindInNameList],
+                              Command1[SelectFromList],
+                              cmdNav[Move::First],
+                              cmdNav[Move::Previous],
+                              cmdNav[Move::Next],
+                              cmdNav[Move::Last],
+                              cmdNav[Move::Quarter],
+                              cmdNav[Move::Half],
+                              cmdNav[Move::ThreeQuarters],
+                              cmdCustomer[Menu],
+                              cmdCustomer[CancelAddNew],
+                              cmdNew,
+                              cmdCustomer[Select]};
+    for (size_t i = 1; i < std::size(order); ++i)
+        setTabOrder(order[i - 1], order[i]);
+}
+
+void frmCustomer::SetKeyFilters() {
+    // Account numbers, and the telephone numbers that stand in for them, name folders.
+    for (const CustomerText place : {CustomerText::AcctNo, CustomerText::Phone}) {
+        new KeyFilter(Text(place), [this, place](ushort key) {
+            return FilterNoSpecial(key, Text(place)->text(), office.machine.user);
+        });
+    }
+    auto* name = Text(CustomerText::BusinessName);
+    new KeyFilter(name, [name](ushort key) {
+        if (name->text() == "Enter Name"_L1)
+            name->clear();
+        return key;
+    });
+}
+
+void frmCustomer::Run(const std::function<void()>& rule) {
+    customers.Focus = FocusOn::Nothing;
+    ReadFields();
+    rule();
+    if (customers.IsGivenUp)
+        LeaveWithoutCustomer();
+    else
+        ShowFields();
+}
+
+void frmCustomer::ReadFields() {
+    for (const auto& [place, text] : txtCustomer)
+        customers.Fields[place] = text->text();
+    customers.Fields.cboTitle = cboTitle->currentText();
+    customers.Fields.cboCity = cboCity->currentText();
+    customers.Fields.cboStates = cboStates->currentText();
+    customers.Fields.txtAdd3 = txtAdd3->text();
+    customers.Fields.txtAdd4 = txtAdd4->text();
+}
+
+void frmCustomer::ShowFields() {
+    isShowing = true;
+    for (const auto& [place, text] : txtCustomer) {
+        if (text->text() != customers.Fields[place])
+            text->Show(customers.Fields[place]);
+    }
+    cboTitle->setEditText(customers.Fields.cboTitle);
+    cboCity->setEditText(customers.Fields.cboCity);
+    cboStates->setEditText(customers.Fields.cboStates);
+    txtAdd3->setText(customers.Fields.txtAdd3);
+    txtAdd4->setText(customers.Fields.txtAdd4);
+    lblLType->setText(customers.lblLType);
+    fraUSAddress->setVisible(customers.UsaAddressStyle);
+    fraIntAddress->setVisible(!customers.UsaAddressStyle);
+    ShowName();
+    ShowWhere();
+    ShowEnabled();
+    MoveFocus();
+    isShowing = false;
+}
+
+void frmCustomer::ShowName() {
+    const bool isPersonal = customers.Name == NamePlace::PersonalName;
+    Text(CustomerText::BusinessName)->setVisible(customers.Name == NamePlace::BusinessName);
+    cboTitle->setVisible(isPersonal);
+    for (const CustomerText part :
+         {CustomerText::FirstName, CustomerText::MiddleInitial, CustomerText::LastName})
+        Text(part)->setVisible(isPersonal);
+    const bool isList = customers.Name == NamePlace::AccountList;
+    if (isList && cboAccounts->isHidden())
+        cboAccounts->clearEditText();
+    cboAccounts->setVisible(isList);
+}
+
+void frmCustomer::ShowWhere() {
+    const QString place =
+        u"Customer %1 of %2"_s.arg(customers.CurrentRecord).arg(customers.CustomerCount);
+    const QString& name = customers.Fields[CustomerText::BusinessName];
+    if (customers.CurrentRecord < 1 || customers.CustomerCount < 1)
+        SetWhere(QString());
+    else
+        SetWhere(name.isEmpty() ? place : name + u"  \u00b7  "_s + place);
+}
+
+void frmCustomer::ShowEnabled() {
+    for (const auto& [move, button] : cmdNav)
+        button->setEnabled(customers.IsNavigationEnabled);
+    Command1[FindInNameList]->setEnabled(customers.IsNavigationEnabled);
+    Command1[SelectFromList]->setEnabled(customers.IsNavigationEnabled);
+    cmdCustomer[CancelAddNew]->setVisible(customers.IsCancelVisible);
+    mnuAdd->setEnabled(customers.mnuAddEnabled);
+    mnuDelete->setEnabled(customers.mnuDeleteEnabled);
+}
+
+void frmCustomer::MoveFocus() {
+    switch (customers.Focus) {
+    case FocusOn::Nothing:
+        break;
+    case FocusOn::AcctNo:
+        Text(CustomerText::AcctNo)->setFocus();
+        break;
+    case FocusOn::BusinessName:
+        Text(CustomerText::BusinessName)->setFocus();
+        break;
+    case FocusOn::FirstName:
+        Text(CustomerText::FirstName)->setFocus();
+        break;
+    case FocusOn::Phone:
+        Text(CustomerText::Phone)->setFocus();
+        break;
+    case FocusOn::AccountList:
+        cboAccounts->setFocus();
+        break;
+    case FocusOn::SelectButton:
+        cmdCustomer[Select]->setFocus();
+        break;
+    }
+}
+
+void frmCustomer::LeaveWithoutCustomer() {
+    isShowing = true;
+    screens.Destroy(ScreenName::frmCustomer);
+    screens.Show(ScreenName::frmStartup);
+}
+
+bool frmCustomer::eventFilter(QObject* watched, QEvent* event) {
+    // A record saves itself, so nothing in it may change by turning the wheel over it.
+    if (event->type() == QEvent::Wheel) {
+        event->ignore();
+        return true;
+    }
+    if (watched == cboAccounts && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Down || key == Qt::Key_Up) {
+            // In the closed list these keys would choose an account each.
+            cboAccounts->showPopup();
+            return true;
+        }
+    }
+    if (watched == cboAccounts && event->type() == QEvent::FocusOut &&
+        IsMovedByOperator(*static_cast<QFocusEvent*>(event)))
+        cboAccounts_LostFocus();
+    return Screen::eventFilter(watched, event);
+}
+
+void frmCustomer::txtCustomer_GotFocus(CustomerText place) {
+    // Behind the area code and exchange only the last four digits are to be typed.
+    if (place == CustomerText::Phone && Text(place)->text().size() == proposedPhone)
+        Text(place)->end(false);
+}
+
+void frmCustomer::txtCustomer_LostFocus(CustomerText place) {
+    if (isShowing)
+        return;
+    if (place == CustomerText::AcctNo)
+        Run([this] { customers.AcctNo_LostFocus(); });
+    else if (place == CustomerText::BusinessName)
+        Run([this] { customers.BusinessName_LostFocus(); });
+    behindLostFocus.start();
+}
+
+/// When a click on a button has brought up a message about the field before it, the message has
+/// taken the release of the mouse, and the button would stay down.
+void frmCustomer::ReleaseButtons() {
+    if (QApplication::mouseButtons() != Qt::NoButton)
+        return;
+    for (auto* button : findChildren<QPushButton*>())
+        button->setDown(false);
+}
+
+void frmCustomer::cboAccounts_LostFocus() {
+    if (isShowing || cboAccounts->isHidden())
+        return;
+    Run([this] { customers.cboAccounts_LostFocus(cboAccounts->currentText()); });
+    behindLostFocus.start();
+}
+
+void frmCustomer::cboAccounts_Click(int row) {
+    // The toolkit tells a second time when a typed name is left.
+    if (isShowing || cboAccounts->isHidden())
+        return;
+    Run([this, row] { customers.cboAccounts_Choose(row); });
+}
+
+void frmCustomer::cmdCustomer_Click(Button index) {
+    if (index == CancelAddNew) {
+        Run([this] { customers.CancelAddNew(); });
+        return;
+    }
+    bool hasLeft = false;
+    Run([this, index, &hasLeft] { hasLeft = customers.Leave(index == Select); });
+    if (!hasLeft)
+        return;
+    constexpr qint16 maintenance = 2;
+    constexpr qint16 newDelivery = 5;
+    if (office.MenuChoice == newDelivery && index == Select)
+        screens.GoFrom(ScreenName::frmCustomer, ScreenName::frmDelivery);
+    else if (office.MenuChoice == maintenance || office.MenuChoice == newDelivery)
+        screens.GoFrom(ScreenName::frmCustomer, ScreenName::frmStartup);
+    else
+        screens.Hide(ScreenName::frmCustomer);
+}
