@@ -85,6 +85,17 @@ FillOwnDisk() {
     cat /dev/zero >"$dayFolder/disk/filler" 2>/dev/null || true
 }
 
+# Of the first product of the grid, behind six fields; two more follow it.
+SaveTooManyUnitsOnHand() {
+    WaitForTitle
+    Continue
+    OpenProducts
+    ModifyItem 1
+    Keys Return Return Return Return Return Return
+    ReplaceText 40000
+    Keys Return Return Return Return
+}
+
 BeginPlay
 case $rule in
 SlipOfFewerThanTenLinesStopsTheStart)
@@ -125,6 +136,25 @@ ReadOnlyFolderStopsTheStart)
     Obstruct() { chmod -R a-w "$business"; }
     ObeyRights
     sentence='Deleting Phone.txt failed: Permission denied.'
+    ;;
+UnreadableProductsStopTheStart)
+    Spoil() { RemovePastSlips "$business"; }
+    Obstruct() { chmod 000 "$business/NXInventoriedItems.txt"; }
+    ObeyRights
+    sentence='Opening NXInventoriedItems.txt for reading and writing failed: Permission denied.'
+    ;;
+TooFewStatesStopTheStart)
+    # The whole list has fifty.
+    Spoil() {
+        RemovePastSlips "$business"
+        seq -f '"S%g"' 49 | sed 's/$/\r/' >"$business/StatesList.txt"
+    }
+    sentence='Reading StatesList.txt failed: the file ends before all of its values were read.'
+    ;;
+TooManyUnitsOnHandStopTheSave)
+    Spoil() { RemovePastSlips "$business"; }
+    PlayUpToFailure() { SaveTooManyUnitsOnHand; }
+    sentence='The number 40000 is outside its range (the units on hand).'
     ;;
 FullDiskStopsTheReschedule)
     PlayUpToFailure() { KeepFirstPastSlip; }

@@ -17,6 +17,7 @@ program=$1
 sampleMaker=$2
 shift 2
 
+productsScreen='Inventoried Items'
 recurringQuestion='Delete a Recurring Slip'
 # A message box without a title of its own has the program's.
 notice=$titleScreen
@@ -26,6 +27,8 @@ playLocale=en_US.UTF-8
 # A name that a careless road from the folder to a file would trip over.
 businessName='Büro Süd 1'
 business=''
+setupWindow=''
+productsWindow=''
 playProcesses=()
 
 # A clock that runs on from the morning of the set day, as words for env. The loader puts the
@@ -155,6 +158,125 @@ AnswerPastSlips() {
 
 RemovePastSlips() {
     rm "$1"/TesselDelivery/{Deliveries,DeliveryItems}/2026000[1-5].txt
+}
+
+# Type TEXT: into the field that has the keys.
+Type() {
+    xdotool type --clearmodifiers --delay 20 -- "$1"
+}
+
+# Keys KEY...: wherever the keys go.
+Keys() {
+    xdotool key --clearmodifiers --delay 50 "$@"
+}
+
+# Times COUNT KEY: that key, as words for Press and Keys.
+Times() {
+    local i
+    for ((i = 0; i < $1; i++)); do
+        printf '%s\n' "$2"
+    done
+}
+
+# Through the menu bar: Alt opens it at Files, whose first item is the setup screen. Its window is
+# in setupWindow afterwards.
+OpenSetup() {
+    local menu
+    menu=$(WaitForWindow "$menuScreen")
+    Press "$menu" Alt_L Down Return
+    setupWindow=$(WaitForWindow "$setupScreen")
+}
+
+# OpenSetupOptions STYLE: to the row of the tabs of the options. The address style of the USA has
+# put the keys into the postal code, six places behind the row of the outer tabs; the international
+# one has left them on that row.
+OpenSetupOptions() {
+    local back=()
+    [[ $1 != USA ]] || mapfile -t back < <(Times 6 shift+Tab)
+    Press "$setupWindow" "${back[@]}" Right Right Tab
+}
+
+# Not from the tab of the logo, where another button has that key as well.
+SaveSetup() {
+    Press "$setupWindow" alt+s
+}
+
+# SetTextFile FILE LINE...: each line with its line end, in the code page of the data files.
+SetTextFile() {
+    local file=$1
+    shift
+    [[ $# -eq 0 ]] || printf '%s\r\n' "$@" | iconv -f UTF-8 -t WINDOWS-1252 >"$file"
+    [[ $# -gt 0 ]] || : >"$file"
+}
+
+# EnterFields TEXT...: one after the other, from the field that has the keys.
+EnterFields() {
+    local text
+    for text; do
+        [[ -z $text ]] || Type "$text"
+        Keys Tab
+    done
+}
+
+ReplaceText() {
+    Keys ctrl+a
+    Type "$1"
+}
+
+# AnswerBox TITLE KEY: the message of that title, over whatever screen, goes at that key.
+AnswerBox() {
+    local window
+    window=$(WaitForWindow "$1")
+    Press "$window" "$2"
+    WaitUntilGone "$window" "$1"
+}
+
+# ExpectFiles FOLDER: the files there are byte for byte in the data folder.
+ExpectFiles() {
+    local file
+    for file in "$1"/*; do
+        cmp "$file" "$business/$(basename "$file")" >&2 ||
+            FailDay "$(basename "$file") differs; it should be as in $1."
+    done
+}
+
+# The window is in productsWindow afterwards.
+OpenProducts() {
+    local menu
+    menu=$(WaitForWindow "$menuScreen")
+    Press "$menu" alt+d
+    productsWindow=$(WaitForWindow "$productsScreen")
+}
+
+# ShowItems KEY...: by that entry of the menu, the first one being the items with a price, the second
+# the others. The keys go to Add New.
+ShowItems() {
+    Press "$productsWindow" Alt_L "$@" Return
+}
+
+# ModifyItem ROW: by a click on that row of the items with a price, then Modify, which is behind Add
+# New. The keys are in the description.
+ModifyItem() {
+    xdotool mousemove --window "$productsWindow" 100 $((159 + 27 * $1)) click 1
+    MoveMouseAway
+    ShowItems Down
+    Keys Tab space
+}
+
+# Bytes of a record: Text WIDTH TEXT is a text in the code page of the data files with blanks behind
+# it, Hex DIGITS... are the bytes as they stand, Zeros COUNT are bytes of zero.
+Text() {
+    local text
+    text=$(printf '%s' "${2:-}" | iconv -f UTF-8 -t WINDOWS-1252)
+    LC_ALL=C printf "%-$1s" "$text"
+}
+
+Hex() {
+    printf '%s' "$@" | xxd -r -p
+}
+
+Zeros() {
+    head -c "$1" /dev/zero
 }
 
 # From the menu to the print of the whole day of the board's first vehicle.
