@@ -1,40 +1,203 @@
 #include "platform/EntryField.h"
 
-#include <QFocusEvent>
+#include <QAbstractButton>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMetaMethod>
+
+#include <algorithm>
+#include <memory>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-bool ChangesText(const QKeyEvent& press) {
-    if (press.matches(QKeySequence::Paste) || press.key() == Qt::Key_Backspace ||
-        press.key() == Qt::Key_Delete)
+constexpr ushort backspaceKey = 8;
+
+bool IsEnter(const QKeyEvent& press) {
+    return press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
+}
+
+bool LeadsAway(const QKeyEvent& press) {
+    switch (press.key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_Meta:
+    case Qt::Key_CapsLock:
+    case Qt::Key_NumLock:
         return true;
+    default:
+        return press.modifiers() & (Qt::AltModifier | Qt::MetaModifier);
+    }
+}
+
+/// A key that puts characters into the field or takes one away, as opposed to one that moves or
+/// commands.
+bool StandsForCharacters(const QKeyEvent& press) {
     const bool isCommand = press.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
-    return !isCommand && !press.text().isEmpty() && press.text()[0].isPrint();
+    return !isCommand && !press.text().isEmpty() &&
+           (press.text()[0].isPrint() || press.text()[0] == QChar(backspaceKey));
+}
+
+/// Something to enter, or the main button.
+bool IsStop(const QWidget& control) {
+    const auto* button = qobject_cast<const QAbstractButton*>(&control);
+    const bool isEntry = qobject_cast<const QLineEdit*>(&control) ||
+                         qobject_cast<const QComboBox*>(&control) ||
+                         (button && button->isCheckable());
+    return (isEntry && !control.property("enterPasses").toBool()) ||
+           (button && control.property("mainAction").toBool());
+}
+
+bool CanTakeFocus(const QWidget& control) {
+    return (control.focusPolicy() & Qt::TabFocus) && !control.focusProxy() && control.isEnabled() &&
+           control.isVisibleTo(control.window());
 }
 
 } // namespace
 
+EntryField::EntryField(QWidget* parent) : QLineEdit(parent), limit(maxLength()) {
+    connect(this, &QLineEdit::textEdited, this, &EntryField::LimitAgain);
+}
+
+void EntryField::SetKeyRule(const KeyRule& keyRule) {
+    rule = keyRule;
+    // A text dropped with the mouse would pass by the rule.
+    setAcceptDrops(false);
+}
+
+void EntryField::SetTypedLimit(int characters) {
+    limit = characters;
+    Show(text());
+}
+
+void EntryField::Show(const QString& newText) {
+    // First, lest the text be cut: what is left of it would look like an entry.
+    setMaxLength(std::max(limit, int(std::max(newText.size(), text().size()))));
+    if (text() != newText) {
+        setText(newText);
+        setCursorPosition(0);
+    }
+    LimitAgain(newText);
+}
+
+/// The limit counts as soon as the text is within it; until then the text can't grow.
+void EntryField::LimitAgain(const QString& newText) {
+    const int length = std::max(limit, int(newText.size()));
+    if (maxLength() == length)
+        return;
+    // A new length takes the cursor to the end.
+    const int cursor = cursorPosition();
+    setMaxLength(length);
+    setCursorPosition(cursor);
+}
+
+/// Up to the first character that the rule refuses.
+void EntryField::RunThroughRule(const QString& text) {
+    for (const QChar character : text) {
+        const ushort passed = rule(character.unicode());
+        if (passed == 0) {
+            setFocus();
+            return;
+        }
+        insert(QChar(passed));
+    }
+}
+
+void EntryField::TypeThroughRule(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Paste))
+        RunThroughRule(QApplication::clipboard()->text());
+    else if (!StandsForCharacters(*event))
+        QLineEdit::keyPressEvent(event);
+    else if (event->text()[0] != QChar(backspaceKey))
+        RunThroughRule(event->text());
+    else if (rule(backspaceKey) != 0)
+        QLineEdit::keyPressEvent(event);
+}
+
 void EntryField::keyPressEvent(QKeyEvent* event) {
-    if (ChangesText(*event))
-        Q_EMIT Typing();
-    QLineEdit::keyPressEvent(event);
+    if (!LeadsAway(*event))
+        Q_EMIT KeyDown();
+    static const QMetaMethod entered = QMetaMethod::fromSignal(&QLineEdit::returnPressed);
+    if (IsEnter(*event) && !isSignalConnected(entered))
+        MoveOnFrom(this);
+    else if (rule && !isReadOnly())
+        TypeThroughRule(event);
+    else
+        QLineEdit::keyPressEvent(event);
 }
 
 void EntryField::inputMethodEvent(QInputMethodEvent* event) {
     if (!event->commitString().isEmpty())
-        Q_EMIT Typing();
-    QLineEdit::inputMethodEvent(event);
+        Q_EMIT KeyDown();
+    if (!rule) {
+        QLineEdit::inputMethodEvent(event);
+        return;
+    }
+    // What is still being composed shows; what is done comes in by the rule.
+    QInputMethodEvent composing(event->preeditString(), event->attributes());
+    QLineEdit::inputMethodEvent(&composing);
+    RunThroughRule(event->commitString());
+}
+
+void EntryField::mouseReleaseEvent(QMouseEvent* event) {
+    if (rule && !isReadOnly() && event->button() == Qt::MiddleButton)
+        RunThroughRule(QApplication::clipboard()->text(QClipboard::Selection));
+    else
+        QLineEdit::mouseReleaseEvent(event);
+}
+
+void EntryField::contextMenuEvent(QContextMenuEvent* event) {
+    const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+    // The toolkit gives its entries no names; the one for pasting shows the key that pastes.
+    const QString pasteKey = QKeySequence(QKeySequence::Paste).toString(QKeySequence::NativeText);
+    for (QAction* entry : menu->actions()) {
+        if (!rule || !entry->text().endsWith(pasteKey))
+            continue;
+        entry->disconnect();
+        connect(entry, &QAction::triggered, this,
+                [this] { RunThroughRule(QApplication::clipboard()->text()); });
+    }
+    menu->exec(event->globalPos());
+}
+
+void EntryField::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    Q_EMIT GotFocus();
 }
 
 void EntryField::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    switch (event->reason()) {
-    case Qt::ActiveWindowFocusReason:
-    case Qt::PopupFocusReason:
-    case Qt::MenuBarFocusReason:
-        break;
-    default:
+    if (IsMovedByOperator(*event))
         Q_EMIT Left();
+}
+
+bool IsMovedByOperator(const QFocusEvent& event) {
+    switch (event.reason()) {
+    case Qt::MouseFocusReason:
+    case Qt::TabFocusReason:
+    case Qt::BacktabFocusReason:
+    case Qt::ShortcutFocusReason:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void MoveOnFrom(QWidget* field) {
+    for (QWidget* next = field->nextInFocusChain(); next != field;
+         next = next->nextInFocusChain()) {
+        if (next->window() == field->window() && IsStop(*next) && CanTakeFocus(*next)) {
+            next->setFocus(Qt::TabFocusReason);
+            return;
+        }
     }
 }

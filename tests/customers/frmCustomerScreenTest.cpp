@@ -1,6 +1,6 @@
 #include "customers/SampleCustomers.h"
 #include "customers/frmCustomer.h"
-#include "platform/TextBox.h"
+#include "platform/EntryField.h"
 #include "platform/WindowLayout.h"
 #include "support/ScreenTest.h"
 
@@ -59,7 +59,9 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(screens.Find(screen)));
     }
 
-    TextBox* Text(int index) { return Find<TextBox>(screen, u"txtCustomer(%1)"_s.arg(index)); }
+    EntryField* Text(int index) {
+        return Find<EntryField>(screen, u"txtCustomer(%1)"_s.arg(index));
+    }
     QString Shown(int index) { return Text(index)->text(); }
     QComboBox* Combo(const QString& name) { return Find<QComboBox>(screen, name); }
     QAbstractButton* Button(const QString& name) { return Find<QAbstractButton>(screen, name); }
@@ -347,8 +349,8 @@ TEST_F(CustomerScreen, AddressStyleIsReadEachTimeTheScreenComesToTheFront) {
     screens.Show(screen);
     EXPECT_FALSE(Control(u"fraUSAddress"_s)->isVisible());
     EXPECT_TRUE(Control(u"fraIntAddress"_s)->isVisible());
-    EXPECT_EQ(Find<TextBox>(screen, u"txtAdd3"_s)->text(), u"Springfield"_s);
-    EXPECT_EQ(Find<TextBox>(screen, u"txtAdd4"_s)->text(), u"62704"_s);
+    EXPECT_EQ(Find<EntryField>(screen, u"txtAdd3"_s)->text(), u"Springfield"_s);
+    EXPECT_EQ(Find<EntryField>(screen, u"txtAdd4"_s)->text(), u"62704"_s);
     office.settings.cmdAddress = u"USA Style Address"_s;
     screens.Show(screen);
     EXPECT_TRUE(Control(u"fraUSAddress"_s)->isVisible());
@@ -358,7 +360,7 @@ TEST_F(CustomerScreen, InternationalAddressIsTypedAndSaved) {
     OpenThree();
     office.settings.cmdAddress = u"International Style Address"_s;
     screens.Show(screen);
-    auto* third = Find<TextBox>(screen, u"txtAdd3"_s);
+    auto* third = Find<EntryField>(screen, u"txtAdd3"_s);
     third->setFocus();
     third->selectAll();
     Type(third, u"London"_s);
