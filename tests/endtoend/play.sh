@@ -185,9 +185,13 @@ OpenSetup() {
     setupWindow=$(WaitForWindow "$setupScreen")
 }
 
-# From the first tab of the setup screen to the row of the tabs of its options.
+# OpenSetupOptions STYLE: to the row of the tabs of the options. The address style of the USA has
+# put the keys into the postal code, six places behind the row of the outer tabs; the international
+# one has left them on that row.
 OpenSetupOptions() {
-    Press "$setupWindow" ctrl+Tab ctrl+Tab
+    local back=()
+    [[ $1 != USA ]] || mapfile -t back < <(Times 6 shift+Tab)
+    Press "$setupWindow" "${back[@]}" Right Right Tab
 }
 
 # Not from the tab of the logo, where another button has that key as well.

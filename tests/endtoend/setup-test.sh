@@ -18,6 +18,7 @@ tabPictures=(Printing Taxation 'Phone and Modem' 'Work Days' Deliveries/Invoicin
 case $locale in
 en_US)
     keyboard=us
+    style=USA
     # From the company's name to the last field. The state takes two letters and refuses the rest.
     EnterBusiness() {
         EnterFields 'Corner Dairy' '12 Mill Road' '' Springfield ILL 62704 217-555-0199 '' \
@@ -58,6 +59,7 @@ en_US)
     ;;
 de_DE)
     keyboard=de
+    style=International
     # The button under the fields leads to the style without a postal code.
     EnterBusiness() {
         mapfile -t keys < <(Times 9 Tab)
@@ -68,14 +70,14 @@ de_DE)
             '03581 555 0199' '' 'DE 000000000'
     }
     # From the rate of the first tax: the comma's 5 from the list of the second; then the limit and
-    # the surcharge of the scheme.
+    # the surcharge of the scheme. Its panel closes, and the keys come back from where it was.
     EnterTaxes() {
         ReplaceText 19
         Keys Tab space Tab Tab Down Down Down Down Tab Tab space Tab space
         ReplaceText 1000,5
         Keys Tab
         ReplaceText 25
-        Keys Tab Tab space
+        Keys Tab Tab space shift+Tab
     }
     # The telephone behind the port.
     EnterPhone() { Keys Tab Tab space; }
@@ -354,7 +356,7 @@ EnterHolidays
 # A save of what was loaded changes nothing, the copy of a flag in Settings.txt least of all: it is
 # written before the check boxes are looked at. The next save of the same run levels it.
 OpenSetup
-OpenSetupOptions
+OpenSetupOptions "$style"
 mapfile -t keys < <(Times 5 ctrl+Tab)
 Press "$setupWindow" "${keys[@]}"
 TakeTabPictures second
