@@ -45,6 +45,7 @@ en_US)
     ExpectedSettings() {
         SetTextFile MyBusinessData.txt '"Corner Dairy","12 Mill Road","","Springfield","IL","62704","217-555-0199","","FEIN 00-0000000"'
         SetTextFile Settings.txt 8 61 '#TRUE#' '#TRUE#' '#TRUE#'
+        # shellcheck disable=SC2016  # dollars
         SetTextFile DeliverySettings.txt '1,0,0,1,1,1,#FALSE#,#TRUE#,"$0.00","$0.00","$12.50"'
         SetTextFile TaxSettings.txt '"Sales Tax","County Tax","6.25","1,5",1,0'
         SetTextFile PrintColors.txt 0 0 '"Arial"' '#TRUE#' 2
