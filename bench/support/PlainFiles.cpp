@@ -69,3 +69,14 @@ void PlainRemove(const std::string& path) {
 void PlainRename(const std::string& from, const std::string& to) {
     Checked(::rename(from.c_str(), to.c_str()), from);
 }
+
+PlainRecords::PlainRecords(const std::string& filePath, size_t length)
+    : path(filePath), recordLength(length), file(Open(filePath, O_RDONLY)) {}
+
+PlainRecords::~PlainRecords() {
+    ::close(file);
+}
+
+void PlainRecords::Read(int number, void* record) const {
+    Checked(::pread(file, record, recordLength, off_t(number - 1) * off_t(recordLength)), path);
+}

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -14,3 +15,20 @@ std::string PlainRead(const std::string& path);
 void PlainWrite(const std::string& path, const std::string& bytes);
 void PlainRemove(const std::string& path);
 void PlainRename(const std::string& from, const std::string& to);
+
+/// A file of records of one length, read one by one.
+class PlainRecords {
+public:
+    PlainRecords(const std::string& filePath, size_t length);
+    ~PlainRecords();
+    PlainRecords(const PlainRecords&) = delete;
+    PlainRecords& operator=(const PlainRecords&) = delete;
+
+    /// Records count from 1.
+    void Read(int number, void* record) const;
+
+private:
+    std::string path;
+    size_t recordLength;
+    int file;
+};

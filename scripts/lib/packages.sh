@@ -6,7 +6,7 @@
 runPackages=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-svg-dev qt6-serialport-dev libgtest-dev
-    qt6-wayland fonts-dejavu-core fonts-liberation cups-client
+    qt6-wayland fonts-dejavu-core fonts-liberation cups-client emf2svg
 )
 
 # Shows the program where there is no desktop.

@@ -10,7 +10,9 @@
 #include <QProcess>
 #include <QSvgRenderer>
 #include <QTemporaryDir>
+#include <QtEndian>
 
+#include <cmath>
 #include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
@@ -19,7 +21,7 @@ namespace {
 
 constexpr double twipsInDot = 15;
 /// A logo is an inch or two wide; what is larger than this is something else, or a trap.
-constexpr qint64 mostDots = 30'000'000;
+constexpr double mostDots = 30'000'000;
 
 const QString converter = u"emf2svg-conv"_s;
 constexpr int milliSecondsForConverter = 10'000;
@@ -38,14 +40,39 @@ Picture PictureOf(const QImage& image, QSizeF dots) {
             dots.height() * twipsInDot};
 }
 
-/// An enhanced metafile begins with a header record, which has a signature at its 40th byte.
-bool IsMetafile(const QString& path) {
-    QFile file(path);
+/// The beginning of a file, as far as an enhanced metafile tells there what it is.
+QByteArray HeaderOf(const QString& path) {
     constexpr int headerBytes = 44;
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray header = file.read(headerBytes);
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.read(headerBytes) : QByteArray();
+}
+
+/// An enhanced metafile begins with a header record, which has a signature at its 40th byte.
+bool IsMetafile(const QByteArray& header) {
     return header.startsWith(QByteArrayView("\x01\0\0\0", 4)) && header.endsWith(" EMF");
+}
+
+/// The size that the header of a metafile gives it. The dots in its drawing are those of the device
+/// that it was made for, and may be as fine as a printer's.
+QSizeF DotsInFrame(const QByteArray& header) {
+    constexpr int left = 24;
+    constexpr int top = 28;
+    constexpr int right = 32;
+    constexpr int bottom = 36;
+    constexpr double unitsInInch = 2540;
+    constexpr double dotsInInch = 96;
+    const auto edge = [&header](int at) {
+        return double(qFromLittleEndian<qint32>(header.constData() + at));
+    };
+    return QSizeF(edge(right) - edge(left), edge(bottom) - edge(top)) * dotsInInch / unitsInInch;
+}
+
+void RefuseTooLarge(const QString& path, QSizeF dots) {
+    if (dots.width() * dots.height() > mostDots)
+        throw BadPicture(path, u"It has %1 by %2 dots, and a logo can have at most %3 in all."_s
+                                   .arg(std::lround(dots.width()))
+                                   .arg(std::lround(dots.height()))
+                                   .arg(std::lround(mostDots)));
 }
 
 void Limit(int resource, rlim_t most) {
@@ -64,6 +91,9 @@ QByteArray ConvertedMetafile(const QString& path) {
         Limit(RLIMIT_FSIZE, largestDrawing);
         Limit(RLIMIT_CORE, 0);
     });
+    // What it has to say is of no use, and would be kept in memory.
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
     process.start(converter, {u"-i"_s, path, u"-o"_s, drawing});
     if (!process.waitForStarted())
         throw BadPicture(path, u"The program %1 is needed for metafiles and could not be started. "
@@ -80,18 +110,20 @@ QByteArray ConvertedMetafile(const QString& path) {
     return file.readAll();
 }
 
-Picture LoadMetafile(const QString& path) {
+Picture LoadMetafile(const QString& path, QSizeF dots) {
+    if (dots.isEmpty())
+        throw BadPicture(path, u"It has no size."_s);
+    RefuseTooLarge(path, dots);
     QSvgRenderer renderer(ConvertedMetafile(path));
-    const QSizeF size = renderer.defaultSize();
-    if (!renderer.isValid() || size.isEmpty())
-        throw BadPicture(path, u"Nothing is drawn in it."_s);
+    if (!renderer.isValid())
+        throw BadPicture(path, u"It is no metafile that can be converted."_s);
     QImage image(
-        size.scaled(drawingDots, drawingDots, Qt::KeepAspectRatio).toSize().expandedTo(QSize(1, 1)),
+        dots.scaled(drawingDots, drawingDots, Qt::KeepAspectRatio).toSize().expandedTo(QSize(1, 1)),
         QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     renderer.render(&painter);
-    return PictureOf(image, size);
+    return PictureOf(image, dots);
 }
 
 } // namespace
@@ -101,17 +133,16 @@ bool DesktopPictures::Exists(const QString& path) const {
 }
 
 Picture DesktopPictures::Load(const QString& path) const {
-    if (IsMetafile(path))
-        return LoadMetafile(path);
+    // Opening a pipe would wait for its other end.
+    if (!Exists(path))
+        throw BadPicture(path, u"There is no such file."_s);
+    const QByteArray header = HeaderOf(path);
+    if (IsMetafile(header))
+        return LoadMetafile(path, DotsInFrame(header));
     QImageReader reader(path);
     // The name says nothing about what is in a file.
     reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    if (qint64(size.width()) * size.height() > mostDots)
-        throw BadPicture(path, u"It has %1 by %2 dots, and a logo can have at most %3 in all."_s
-                                   .arg(size.width())
-                                   .arg(size.height())
-                                   .arg(mostDots));
+    RefuseTooLarge(path, reader.size());
     const QImage image = reader.read();
     if (image.isNull())
         throw BadPicture(path, reader.errorString() + u'.');

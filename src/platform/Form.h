@@ -1,13 +1,24 @@
 #pragma once
 
-#include <QString>
+#include <QGridLayout>
 
-class QFormLayout;
 class QLabel;
 
 /// Rows of a label and a field: labels end at their fields, fields begin at one edge and are as
 /// wide as what they hold.
-QFormLayout* MakeForm();
+class Form : public QGridLayout {
+    Q_OBJECT
+
+public:
+    Form();
+
+    /// The label names the field to screen readers, unless it has a name of its own.
+    void AddRow(QLabel* label, QWidget* field);
+    void AddRow(const QString& caption, QWidget* field);
+};
 
 /// A label in the quiet colour, for what explains.
 QLabel* SoftLabel(const QString& text);
+
+/// Controls on one line, as one field of a form.
+QWidget* InOneLine(std::initializer_list<QWidget*> controls);

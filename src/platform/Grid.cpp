@@ -71,8 +71,17 @@ void Grid::FollowModel(int row, int column) {
 
 void Grid::currentChanged(const QModelIndex& now, const QModelIndex& before) {
     QTableView::currentChanged(now, before);
-    if (now.isValid())
-        grid.SetCurrent(now.row() + 1, now.column());
+    if (!now.isValid())
+        return;
+    // A grid that gets the focus makes its first cell current without selecting it.
+    if (!selectionModel()->isRowSelected(now.row()))
+        selectionModel()->select(now,
+                                 QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    const int row = now.row() + 1;
+    const bool isMovedByUser = row != grid.CurrentRow() || now.column() != grid.CurrentColumn();
+    grid.SetCurrent(row, now.column());
+    if (isMovedByUser)
+        Q_EMIT Moved(row, now.column());
 }
 
 void Grid::keyPressEvent(QKeyEvent* event) {

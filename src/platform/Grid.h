@@ -21,6 +21,8 @@ public:
 Q_SIGNALS:
     /// Rows count from 1; 0 is the heading.
     void Clicked(int row, int column);
+    /// The user has gone to another cell, with the mouse or a key.
+    void Moved(int row, int column);
     /// A key that stands for a character (Backspace 8, Enter 13).
     void KeyPressed(ushort character);
 

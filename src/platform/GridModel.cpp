@@ -3,6 +3,7 @@
 #include "platform/RuntimeFailure.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -56,15 +57,23 @@ const QString& GridModel::Text(int row, int column) const {
     return cells[size_t(row)][size_t(column)];
 }
 
-void GridModel::SetText(int row, int column, const QString& text) {
+void GridModel::SetText(int row, int column, QString text) {
     CheckCell(row, column);
-    cells[size_t(row)][size_t(column)] = text;
+    cells[size_t(row)][size_t(column)] = std::move(text);
     if (refills > 0)
         return;
     if (row == 0)
         Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
     else
         Q_EMIT dataChanged(index(row - 1, column), index(row - 1, column));
+}
+
+int GridModel::FindRow(int column, const QString& text) const {
+    CheckCell(0, column);
+    const auto found =
+        std::find_if(cells.begin() + 1, cells.end(),
+                     [&](const std::vector<QString>& row) { return row[size_t(column)] == text; });
+    return found == cells.end() ? 0 : int(found - cells.begin());
 }
 
 void GridModel::SetCurrent(int row, int column) {
@@ -84,6 +93,10 @@ void GridModel::Sort(int column, CellOrder isBefore) {
     std::stable_sort(cells.begin() + 1, cells.end(), [&](const auto& one, const auto& other) {
         return isBefore(one[at], other[at]);
     });
+}
+
+void GridModel::SortAsText(int column) {
+    Sort(column, [](const QString& one, const QString& other) { return one < other; });
 }
 
 void GridModel::AlignRight(int column) {

@@ -31,7 +31,9 @@ public:
 
     /// A cell outside the grid is a failure of kind Subscript.
     const QString& Text(int row, int column) const;
-    void SetText(int row, int column, const QString& text);
+    void SetText(int row, int column, QString text);
+    /// The first data row with that text in a column; 0 when there is none.
+    int FindRow(int column, const QString& text) const;
 
     /// 0 when the heading is current.
     int CurrentRow() const { return currentRow; }
@@ -43,6 +45,8 @@ public:
 
     /// Sorts the data rows on a column; rows that `isBefore` finds equal keep their order.
     void Sort(int column, CellOrder isBefore);
+    /// Ascending, character by character, so that "10" comes before "9" and "Z" before "a".
+    void SortAsText(int column);
 
     /// While it lives, changes reach the views as one: for filling a grid.
     class Refill {

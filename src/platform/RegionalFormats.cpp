@@ -3,7 +3,9 @@
 #include "platform/CodePage.h"
 
 #include <QRegularExpression>
+#include <QStringBuilder>
 #include <QStringList>
+#include <QVarLengthArray>
 
 #include <algorithm>
 #include <array>
@@ -279,25 +281,23 @@ std::optional<QDate> RegionalFormats::ParseDate(QStringView text) const {
     return date.isValid() ? std::optional(date) : std::nullopt;
 }
 
-QString RegionalFormats::Grouped(const QString& digits) const {
-    if (groupMark.isNull())
-        return digits;
-    QString grouped = digits;
-    qsizetype place = digits.size() - lastGroup;
-    while (place > 0) {
-        grouped.insert(place, groupMark);
-        place -= otherGroups;
-    }
-    return grouped;
-}
-
 QString RegionalFormats::Currency(quint64 digits, bool negative) const {
-    QString text = QString::number(digits).rightJustified(decimals + 1, u'0');
-    QString whole = Grouped(text.left(text.size() - decimals));
-    if (decimals > 0)
-        whole += decimalMark + text.right(decimals);
-    return negative ? negativePrefix + whole + negativeSuffix
-                    : positivePrefix + whole + positiveSuffix;
+    constexpr qsizetype mostCharacters = 48;
+    QVarLengthArray<QChar, mostCharacters> fromTheEnd;
+    for (int place = 0; digits > 0 || place <= decimals; ++place) {
+        const int wholePlace = place - decimals;
+        if (wholePlace == 0 && decimals > 0)
+            fromTheEnd.append(decimalMark);
+        const int pastLastGroup = wholePlace - lastGroup;
+        if (!groupMark.isNull() && pastLastGroup >= 0 && pastLastGroup % otherGroups == 0)
+            fromTheEnd.append(groupMark);
+        fromTheEnd.append(QChar(char16_t(u'0' + digits % 10)));
+        digits /= 10;
+    }
+    std::reverse(fromTheEnd.begin(), fromTheEnd.end());
+    const QStringView number(fromTheEnd.data(), fromTheEnd.size());
+    return negative ? QString(negativePrefix % number % negativeSuffix)
+                    : QString(positivePrefix % number % positiveSuffix);
 }
 
 bool RegionalFormats::IsGroupMark(QChar character) const {

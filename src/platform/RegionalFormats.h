@@ -45,7 +45,6 @@ public:
 private:
     void TakeDateForm(const QLocale& locale);
     void TakeMoneyForm(const QLocale& locale);
-    QString Grouped(const QString& digits) const;
     bool IsGroupMark(QChar character) const;
 
     QString dateForm;

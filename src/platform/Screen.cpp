@@ -14,9 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// All screens so far stand in the same place.
-const QString layoutKey = u"TesselDelivery"_s;
-
 constexpr int cardSide = 16;
 constexpr int cardTop = 12;
 constexpr int bandSide = 20;
@@ -33,7 +30,8 @@ QFrame* MakeBand(const QString& name) {
 
 } // namespace
 
-Screen::Screen(const QString& name, const QString& title) {
+Screen::Screen(const QString& name, const QString& title, const QString& windowLayoutKey)
+    : layoutKey(windowLayoutKey) {
     setObjectName(name);
     setWindowTitle(title);
 

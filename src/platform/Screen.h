@@ -15,7 +15,9 @@ class Screen : public QMainWindow {
     Q_OBJECT
 
 public:
-    Screen(const QString& name, const QString& title);
+    /// Screens with the same layout key follow each other in the same place.
+    Screen(const QString& name, const QString& title,
+           const QString& windowLayoutKey = QStringLiteral("TesselDelivery"));
     ~Screen() override;
 
     /// Shows the screen in front, where the one before it stood.
@@ -46,6 +48,7 @@ private:
     QWidget* MakeHead(const QString& caption);
     QWidget* MakeFoot();
 
+    const QString layoutKey;
     QLabel* captionLabel = nullptr;
     QLabel* where = nullptr;
     QWidget* body = nullptr;

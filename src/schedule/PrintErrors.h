@@ -12,6 +12,7 @@ void HandlePrintErrors(PrinterSurface& surface, Operator& user, Printing&& print
         print();
     } catch (const RuntimeFailure& failure) {
         PassOver([&surface] { surface.AbandonJob(); });
+        surface.DrawWidth = 1;
         if (failure.Kind() != FailureKind::PrintCancelled)
             user.MsgBox(QStringLiteral("A Print Error has occurred"), Buttons::Ok,
                         QStringLiteral("Print Error"));

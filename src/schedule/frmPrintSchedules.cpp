@@ -144,6 +144,8 @@ QWidget* frmPrintSchedules::MakeVehicleCard() {
             &frmPrintSchedules::lstVehicles_Click);
     // A click on the vehicle already chosen loads its deliveries anew.
     connect(lstVehicles, &QListView::clicked, this, &frmPrintSchedules::lstVehicles_Click);
+    connect(&office.fleet.Names, &QAbstractItemModel::modelReset, this,
+            &frmPrintSchedules::lstVehicles_Refill);
     return card;
 }
 
@@ -412,6 +414,13 @@ void frmPrintSchedules::DTPicker1_Change(QDate date) {
 void frmPrintSchedules::lstVehicles_Click() {
     board.ChooseVehicle(lstVehicles->currentIndex().data().toString());
     ShowBoard();
+}
+
+void frmPrintSchedules::lstVehicles_Refill() {
+    // The board goes on showing its vehicle, so that stays chosen when the list has it again.
+    const int row = int(office.fleet.Names.stringList().indexOf(board.lstVehicles));
+    const QSignalBlocker chosen(lstVehicles->selectionModel());
+    lstVehicles->setCurrentIndex(office.fleet.Names.index(row));
 }
 
 void frmPrintSchedules::fgSchedule_Click(int row, int column) {

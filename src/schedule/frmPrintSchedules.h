@@ -69,6 +69,7 @@ private:
 
     void DTPicker1_Change(QDate date);
     void lstVehicles_Click();
+    void lstVehicles_Refill();
     void fgSchedule_Click(int row, int column);
     void fgSchedule_KeyPress(ushort key);
     ushort txtDeliveryCharge_KeyPress(ushort key);

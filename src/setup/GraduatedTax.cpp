@@ -2,6 +2,8 @@
 
 #include "store/Conversions.h"
 
+using namespace Qt::StringLiterals;
+
 std::optional<int> CheckGraduatedScheme(LiveSettings& settings, Operator& user) {
     for (size_t i = 0; i < settings.txtGradulated.size(); ++i) {
         QString& amount = settings.txtGradulated[i];
@@ -10,7 +12,7 @@ std::optional<int> CheckGraduatedScheme(LiveSettings& settings, Operator& user) 
             amount = ZeroCurrencyText();
             return int(i);
         }
-        amount = CurrencyText(amount);
+        amount = CurrencyText(amount, u"the graduated tax scheme"_s);
     }
     if (settings.txtGradulated[0] == ZeroCurrencyText())
         settings.ckApplyGraduated = 0;

@@ -3,23 +3,26 @@
 PrintLook::PrintLook(LiveSettings& liveSettings, CommonDialog& commonDialog, Operator& person)
     : settings(liveSettings), dialog(commonDialog), user(person) {}
 
-void PrintLook::ChangeBorderColor() {
-    ChangeColor(settings.BorderColor);
+bool PrintLook::ChangeBorderColor() {
+    return ChangeColor(settings.BorderColor);
 }
 
-void PrintLook::ChangeTextColor() {
-    ChangeColor(settings.TextColor);
+bool PrintLook::ChangeTextColor() {
+    return ChangeColor(settings.TextColor);
 }
 
-void PrintLook::ChangeColor(qint32& color) {
+bool PrintLook::ChangeColor(qint32& color) {
     const auto chosen = user.AskForColor(dialog.Color);
     if (!chosen && dialog.RaisesErrorOnCancel)
-        return;
+        return false;
     dialog.Color = chosen.value_or(dialog.Color);
     color = qint32(dialog.Color);
+    return true;
 }
 
-void PrintLook::ChangeFont() {
-    if (const auto name = user.AskForFont(settings.DocumentFont))
+bool PrintLook::ChangeFont() {
+    const auto name = user.AskForFont(settings.DocumentFont);
+    if (name)
         settings.DocumentFont = *name;
+    return name || !dialog.RaisesErrorOnCancel;
 }

@@ -9,13 +9,16 @@ class PrintLook {
 public:
     PrintLook(LiveSettings& liveSettings, CommonDialog& commonDialog, Operator& person);
 
-    void ChangeBorderColor();
-    void ChangeTextColor();
+    // Each opens a dialog, and is false when the dialog ends in the error that a Cancel raises once
+    // a file has been searched for; nothing changes then, not even the sample words.
+
+    bool ChangeBorderColor();
+    bool ChangeTextColor();
     /// Size and style of the choice don't count.
-    void ChangeFont();
+    bool ChangeFont();
 
 private:
-    void ChangeColor(qint32& color);
+    bool ChangeColor(qint32& color);
 
     LiveSettings& settings;
     CommonDialog& dialog;

@@ -11,7 +11,12 @@ void SettingsBinder::Bind(QLineEdit* box, QString& value) {
 void SettingsBinder::Bind(QComboBox* box, QString& value) {
     connect(box, &QComboBox::editTextChanged, this,
             [&value](const QString& text) { value = text; });
-    AddShow([box, &value] { box->setEditText(value); });
+    AddShow([box, &value] {
+        // Going to the entry changes the value on the way.
+        const QString text = value;
+        box->setCurrentIndex(box->findText(text));
+        box->setEditText(text);
+    });
 }
 
 void SettingsBinder::AddShow(const std::function<void()>& show) {

@@ -5,7 +5,6 @@
 #include "platform/Theme.h"
 #include "setup/AddressStyle.h"
 
-#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -22,6 +21,7 @@ constexpr int postalCode = 5;
 
 constexpr int stateCharacters = 2;
 constexpr int addressCharacters = 55;
+constexpr int anyCharacters = 32'767;
 
 // Widths of the two fields that change with the style, in twips at the toolkit's smallest font,
 // whose height is 195 twips.
@@ -60,38 +60,34 @@ QWidget* SetupBusinessTab::MakeForm() {
         u"State"_s,         u"Postal Zip Code"_s, u"Telephone"_s, u"Fax No,email or Web"_s,
         u"FEIN, VAT, ABN"_s};
     auto* block = new QWidget;
-    QFormLayout* form = ::MakeForm();
+    auto* form = new Form;
     block->setLayout(form);
-    form->setContentsMargins({});
     for (int i = 0; i < int(txtBusiness.size()); ++i)
         AddBusinessRow(form, i, captions[i]);
-    // Its own length depends on the style, so it has to be set before a text is.
-    binder.AddShow([this] { LimitState(); });
+    // A length set while the text before still stands could cut it, and what is left of it would
+    // reach the setting.
+    binder.AddShow([this] { txtBusiness[state]->setMaxLength(anyCharacters); });
     for (size_t i = 0; i < txtBusiness.size(); ++i)
         binder.Bind(txtBusiness[i], settings.txtBusiness[i]);
-    connect(txtBusiness[state], &QLineEdit::textEdited, this, &SetupBusinessTab::LimitState);
+    binder.AddShow([this] { LimitState(); });
+    connect(txtBusiness[state], &QLineEdit::textChanged, this, &SetupBusinessTab::LimitState);
     return block;
 }
 
-void SetupBusinessTab::AddBusinessRow(QFormLayout* form, int index, const QString& caption) {
+void SetupBusinessTab::AddBusinessRow(Form* form, int index, const QString& caption) {
     auto* box = Named(new QLineEdit, Indexed(u"txtBusiness"_s, index));
     auto* label = Named(new QLabel(caption), Indexed(u"lblAddress"_s, index));
-    label->setBuddy(box);
     box->setFixedWidth(Em(addressWidth));
     txtBusiness[size_t(index)] = box;
     lblAddress[size_t(index)] = label;
-    form->addRow(label, index == postalCode ? MakePostalField() : box);
+    form->AddRow(label, index == postalCode ? MakePostalField() : box);
+    label->setBuddy(box);
 }
 
 QWidget* SetupBusinessTab::MakePostalField() {
     txtBusiness[postalCode]->setFixedWidth(Em(postalWidth));
     lblPostal = Named(SoftLabel(u"A postal code stands for the USA style"_s), u"lblPostal"_s);
-    auto* field = new QWidget;
-    auto* row = new QHBoxLayout(field);
-    row->setContentsMargins({});
-    row->addWidget(txtBusiness[postalCode]);
-    row->addWidget(lblPostal);
-    return field;
+    return InOneLine({txtBusiness[postalCode], lblPostal});
 }
 
 QToolButton* SetupBusinessTab::MakeImage(const QString& name, const QString& icon,
@@ -150,7 +146,14 @@ void SetupBusinessTab::ShowStyle() {
 /// A text that is longer already stays whole; it can only become shorter.
 void SetupBusinessTab::LimitState() {
     const qsizetype limit = IsUsaStyle(settings) ? stateCharacters : addressCharacters;
-    txtBusiness[state]->setMaxLength(int(qMax(limit, settings.txtBusiness[state].size())));
+    const int length = int(qMax(limit, settings.txtBusiness[state].size()));
+    QLineEdit* box = txtBusiness[state];
+    if (box->maxLength() == length)
+        return;
+    // A new length takes the cursor to the end.
+    const int cursor = box->cursorPosition();
+    box->setMaxLength(length);
+    box->setCursorPosition(cursor);
 }
 
 void SetupBusinessTab::cmdAddress_Click() {

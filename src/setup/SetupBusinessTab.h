@@ -8,7 +8,7 @@
 
 #include <array>
 
-class QFormLayout;
+class Form;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -25,7 +25,7 @@ public:
     void ApplyStyle();
 
 private:
-    void AddBusinessRow(QFormLayout* form, int index, const QString& caption);
+    void AddBusinessRow(Form* form, int index, const QString& caption);
     QWidget* MakeForm();
     QWidget* MakePostalField();
     QToolButton* MakeImage(const QString& name, const QString& icon, const QString& tip);

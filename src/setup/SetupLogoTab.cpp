@@ -7,7 +7,6 @@
 #include "schedule/PrintErrors.h"
 #include "store/Conversions.h"
 
-#include <QFormLayout>
 #include <QImage>
 #include <QLabel>
 #include <QPainter>
@@ -22,9 +21,9 @@ namespace {
 
 constexpr double twipsInInch = 1440;
 constexpr double twipsInDot = 15;
-constexpr double viewWidth = 19;
-constexpr double viewHeight = 11;
-constexpr double guideWidth = 20;
+constexpr double viewWidth = 14.5;
+constexpr double viewHeight = 9.5;
+constexpr double guideWidth = 17;
 
 /// What the tab asks for, step by step.
 const QStringList guide = {
@@ -116,10 +115,10 @@ Card* SetupLogoTab::MakeAdjustedCard() {
     Image3 = Named(new QLabel, u"Image3"_s);
     printedSize = SoftLabel({});
     printedSize->setAlignment(Qt::AlignCenter);
-    QFormLayout* sizes = MakeForm();
-    sizes->addRow(u"Width"_s, MakeSize(u"UpDown3"_s, u"width"_s, &CompanyLogo::WidthSmaller,
+    auto* sizes = new Form;
+    sizes->AddRow(u"Width"_s, MakeSize(u"UpDown3"_s, u"width"_s, &CompanyLogo::WidthSmaller,
                                        &CompanyLogo::WidthLarger));
-    sizes->addRow(u"Height"_s, MakeSize(u"UpDown2"_s, u"height"_s, &CompanyLogo::HeightSmaller,
+    sizes->AddRow(u"Height"_s, MakeSize(u"UpDown2"_s, u"height"_s, &CompanyLogo::HeightSmaller,
                                         &CompanyLogo::HeightLarger));
     auto* steps = new QHBoxLayout;
     steps->addLayout(sizes);

@@ -12,7 +12,6 @@
 #include "store/Conversions.h"
 #include "store/VerifyDataRoutines.h"
 
-#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
@@ -100,8 +99,8 @@ QWidget* SetupOptionsTab::MakePhoneTab() {
     txtModemPort->setAlignment(Qt::AlignRight);
     txtModemPort->setFixedWidth(Em(portWidth));
     binder.Bind(txtModemPort, settings.txtModemPort);
-    QFormLayout* form = MakeForm();
-    form->addRow(u"Modem Port"_s, txtModemPort);
+    auto* form = new Form;
+    form->AddRow(u"Modem Port"_s, txtModemPort);
     modem->Rows()->addLayout(form);
 
     auto* phone = new Card(u"Phone"_s);
@@ -153,7 +152,7 @@ QWidget* SetupOptionsTab::MakeDeliveriesTab() {
     auto* charge = new Card(u"Delivery Charge"_s);
     charge->Rows()->addWidget(MakeCheck(
         u"ckDeliveryCharge"_s, u"Add a Delivery Charge to invoices"_s, settings.ckDeliveryCharge));
-    charge->Rows()->addWidget(MakeDeliveryChargeField());
+    charge->Rows()->addWidget(MakeDeliveryChargeField(), 0, Qt::AlignLeft);
 
     auto* past = new Card(u"Past Deliveries"_s);
     past->Rows()->addWidget(MakeCheck(u"ckDelete"_s, u"Automatically DELETE deliveries Past Date"_s,
@@ -171,12 +170,8 @@ QWidget* SetupOptionsTab::MakeDeliveryChargeField() {
     connect(EmptyZeroAtKeyDown(box), &FieldWatch::Left, this,
             [this, box] { txtDeliveryCharge_LostFocus(box); });
     binder.Bind(box, settings.txtDeliveryCharge);
-    auto* field = new QWidget;
-    auto* row = new QHBoxLayout(field);
-    row->setContentsMargins(Em(noteIndent), 0, 0, 0);
-    row->addWidget(box);
-    row->addWidget(SoftLabel(u"(Set to 0 if charge may vary)"_s));
-    row->addStretch(1);
+    QWidget* field = InOneLine({box, SoftLabel(u"(Set to 0 if charge may vary)"_s)});
+    field->layout()->setContentsMargins(Em(noteIndent), 0, 0, 0);
     return field;
 }
 

@@ -1,12 +1,11 @@
 #include "setup/SetupPrintingTab.h"
 
 #include "platform/ColorNumber.h"
+#include "platform/EntryBox.h"
 #include "platform/Form.h"
 #include "platform/Screen.h"
 #include "platform/Theme.h"
 
-#include <QComboBox>
-#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -22,6 +21,8 @@ enum Change { Borders = 0, Text = 1, Font = 2 };
 constexpr double colorWidth = 6;
 constexpr double fontWidth = 13;
 constexpr double copiesWidth = 5;
+/// Between words that read as one caption.
+constexpr double wordGap = 0.25;
 
 } // namespace
 
@@ -41,22 +42,21 @@ Card* SetupPrintingTab::MakeLookCard() {
     lblFont->setMinimumWidth(Em(fontWidth));
     binder.AddShow([this, lblFont] { lblFont->setText(settings.DocumentFont); });
 
-    auto* cboCopies = Named(new QComboBox, u"cboCopies"_s);
+    auto* cboCopies = Named(new EntryBox, u"cboCopies"_s);
     cboCopies->setToolTip(u"How many copies to print"_s);
-    cboCopies->setEditable(true);
     cboCopies->addItems({u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s});
     cboCopies->setFixedWidth(Em(copiesWidth));
     binder.Bind(cboCopies, settings.cboCopies);
 
-    QFormLayout* form = MakeForm();
-    form->addRow(u"Document Font"_s, MakeChange(Font, lblFont, u"Document Font"_s));
-    form->addRow(u"Text Color"_s,
+    auto* form = new Form;
+    form->AddRow(u"Document Font"_s, MakeChange(Font, lblFont, u"Document Font"_s));
+    form->AddRow(u"Text Color"_s,
                  MakeChange(Text, MakeColorBox(u"txtData"_s, settings.TextColor), u"Text Color"_s));
-    form->addRow(u"Border / Frame Color"_s,
+    form->AddRow(u"Border / Frame Color"_s,
                  MakeChange(Borders, MakeColorBox(u"txtBorders"_s, settings.BorderColor),
                             u"Border / Frame Color"_s));
-    form->addRow(QString(), MakeColorChoice());
-    form->addRow(u"Print Copies"_s, cboCopies);
+    form->AddRow(QString(), MakeColorChoice());
+    form->AddRow(u"Print Copies"_s, cboCopies);
 
     auto* card = new Card(u"Documents"_s);
     card->Rows()->addLayout(form);
@@ -70,13 +70,7 @@ QWidget* SetupPrintingTab::MakeChange(int index, QWidget* shown, const QString& 
     cmdChange->setAccessibleName(u"Change "_s + what);
     cmdChange->setAutoDefault(true);
     connect(cmdChange, &QPushButton::clicked, this, [this, index] { cmdChange_Click(index); });
-    auto* field = new QWidget;
-    auto* row = new QHBoxLayout(field);
-    row->setContentsMargins({});
-    row->addWidget(shown);
-    row->addWidget(cmdChange);
-    row->addStretch(1);
-    return field;
+    return InOneLine({shown, cmdChange});
 }
 
 QLineEdit* SetupPrintingTab::MakeColorBox(const QString& name, const qint32& color) {
@@ -99,15 +93,8 @@ QWidget* SetupPrintingTab::MakeColorChoice() {
     binder.Bind(ckColor, settings.ckColor);
     sampleWords[0] = Named(new QLabel(u"in"_s), Indexed(u"Label2"_s, 1));
     sampleWords[1] = Named(new QLabel(u"Color"_s), Indexed(u"Label2"_s, 3));
-    auto* choice = new QWidget;
-    auto* row = new QHBoxLayout(choice);
-    row->setContentsMargins({});
-    constexpr double wordGap = 0.3;
-    row->setSpacing(Em(wordGap));
-    row->addWidget(ckColor);
-    for (QLabel* word : sampleWords)
-        row->addWidget(word);
-    row->addStretch(1);
+    QWidget* choice = InOneLine({ckColor, sampleWords[0], sampleWords[1]});
+    choice->layout()->setSpacing(Em(wordGap));
     return choice;
 }
 
@@ -122,8 +109,8 @@ Card* SetupPrintingTab::MakePaperCard() {
                   u"remittance slip"_s,
                   settings.optReturn, settings.optPlain));
     card->Rows()->addWidget(SoftLabel(u"(use perfed paper)"_s));
-    QFormLayout* forms = MakeForm();
-    forms->addRow(u"Mailing Envelope"_s, new QLabel(u"Deluxe Form # 91551"_s));
+    auto* forms = new Form;
+    forms->AddRow(u"Mailing Envelope"_s, new QLabel(u"Deluxe Form # 91551"_s));
     card->Rows()->addLayout(forms);
     card->Rows()->addWidget(SoftLabel(u"(Order Forms on Main Menu Screen)"_s));
     return card;
@@ -145,18 +132,21 @@ QRadioButton* SetupPrintingTab::MakePaper(const QString& name, const QString& ca
 }
 
 void SetupPrintingTab::cmdChange_Click(int index) {
-    switch (index) {
-    case Borders:
-        printLook.ChangeBorderColor();
-        break;
-    case Text:
-        printLook.ChangeTextColor();
-        break;
-    default:
-        printLook.ChangeFont();
-    }
+    if (!Change(index))
+        return;
     ShowAll();
     RecolorSamples();
+}
+
+bool SetupPrintingTab::Change(int index) {
+    switch (index) {
+    case Borders:
+        return printLook.ChangeBorderColor();
+    case Text:
+        return printLook.ChangeTextColor();
+    default:
+        return printLook.ChangeFont();
+    }
 }
 
 void SetupPrintingTab::RecolorSamples() {

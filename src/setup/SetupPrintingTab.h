@@ -6,7 +6,6 @@
 #include <QWidget>
 
 class Card;
-class QFormLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -34,6 +33,7 @@ private:
                             bool& value, bool& other);
 
     void cmdChange_Click(int index);
+    bool Change(int index);
 
     LiveSettings& settings;
     PrintLook& printLook;

@@ -1,13 +1,12 @@
 #include "setup/SetupTaxationTab.h"
 
+#include "platform/EntryBox.h"
 #include "platform/Form.h"
 #include "platform/Screen.h"
 #include "platform/Theme.h"
 #include "setup/AmountBox.h"
 #include "setup/GraduatedTax.h"
 
-#include <QComboBox>
-#include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -26,8 +25,7 @@ const QStringList headings = {u"Sales Tax"_s, u"County Tax"_s,     u"Tax"_s, u"T
                               u"VAT Tax"_s,   u"Provincial Tax"_s, u"GST"_s};
 
 QComboBox* MakeList(const QString& name, const QStringList& entries, double width) {
-    auto* list = Named(new QComboBox, name);
-    list->setEditable(true);
+    auto* list = Named(new EntryBox, name);
     list->addItems(entries);
     list->setFixedWidth(Em(width));
     return list;
@@ -114,12 +112,12 @@ Card* SetupTaxationTab::MakeGraduatedCard() {
 }
 
 Card* SetupTaxationTab::MakeGraduatedPanel() {
-    QFormLayout* form = MakeForm();
-    form->addRow(u"Apply Primary Tax Rate to all Sales up to  a Total of:"_s,
+    auto* form = new Form;
+    form->AddRow(u"Apply Primary Tax Rate to all Sales up to  a Total of:"_s,
                  MakeAmount(0, u"Max amount of primary rate"_s));
-    form->addRow(u"Apply Secondary Tax Rate when exceeded"_s, new QWidget);
-    form->addRow(u"when Primary Amount is exceeded"_s, new QWidget);
-    form->addRow(u"Apply a Surcharge of:"_s,
+    form->AddRow(u"Apply Secondary Tax Rate when exceeded"_s, new QWidget);
+    form->AddRow(u"when Primary Amount is exceeded"_s, new QWidget);
+    form->AddRow(u"Apply a Surcharge of:"_s,
                  MakeAmount(1, u"Flat surcharge when 1st total is exceeded"_s));
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(MakeButton(ClearPanel, u"Clear/Redo"_s));

@@ -56,6 +56,7 @@ QPushButton* frmSetup::MakeStepper(int index, const QString& caption, const QStr
 }
 
 void frmSetup::Activate() {
+    SetWhere(office.settings.BusinessData[0]);
     options->Activate();
     options->ShowAll();
     business->ApplyStyle();

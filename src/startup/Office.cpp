@@ -6,6 +6,8 @@ Office::Office(const QString& dataFolder, const Machine& theMachine)
       logo(settingsStore, settings, machine.pictures, commonDialog, machine.user),
       printLook(settings, commonDialog, machine.user),
       calendar(disk, machine.user, settings.WorkWeek),
-      slips(disk, calendar, settings, machine.clock, machine.user), fleet(disk), items(disk),
+      slips(disk, calendar, settings, machine.clock, machine.user), items(disk),
+      fleet(disk, items, machine.user), inventoriedItems(disk, machine.user),
+      nonInventoriedItems(disk),
       board(disk, slips, calendar, settings, machine.clock, machine.user),
       printer(machine.printer, settings), schedulePrinter(board, printer, settings, machine.user) {}

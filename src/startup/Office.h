@@ -5,6 +5,8 @@
 #include "platform/Picture.h"
 #include "platform/PrinterSurface.h"
 #include "platform/WebBrowser.h"
+#include "products/InventoriedItems.h"
+#include "products/NonInventoriedItems.h"
 #include "products/SalesItemLists.h"
 #include "schedule/DeliverySchedulePrinter.h"
 #include "schedule/PrinterRoutines.h"
@@ -48,8 +50,10 @@ public:
     Calendar calendar;
     DeliveryTimes deliveryTimes;
     DeliverySlipRoutines slips;
-    VehicleFleet fleet;
     SalesItemLists items;
+    VehicleFleet fleet;
+    InventoriedItems inventoriedItems;
+    NonInventoriedItems nonInventoriedItems;
     ScheduleBoard board;
     PrinterRoutines printer;
     DeliverySchedulePrinter schedulePrinter;

@@ -1,9 +1,11 @@
 #include "startup/Screens.h"
 
+#include "products/frmServices.h"
 #include "schedule/frmPrintSchedules.h"
 #include "setup/frmHolidays.h"
 #include "setup/frmSetup.h"
 #include "setup/frmSplash.h"
+#include "slips/frmVehicle.h"
 #include "startup/Office.h"
 #include "startup/frmStartup.h"
 
@@ -20,14 +22,15 @@ Screens::~Screens() {
 
 bool Screens::IsBuilt(ScreenName name) {
     switch (name) {
-    case ScreenName::frmSplash:
-    case ScreenName::frmStartup:
-    case ScreenName::frmSetup:
-    case ScreenName::frmPrintSchedules:
-    case ScreenName::frmHolidays:
-        return true;
-    default:
+    case ScreenName::frmWeekly:
+    case ScreenName::frmCustomer:
+    case ScreenName::frmDelivery:
+    case ScreenName::frmTaxForm:
+    case ScreenName::frmSalesReport:
+    case ScreenName::frmInvoiceReport:
         return false;
+    default:
+        return true;
     }
 }
 
@@ -43,6 +46,10 @@ std::unique_ptr<Screen> Screens::Make(ScreenName name) {
         return std::make_unique<frmPrintSchedules>(office, *this);
     case ScreenName::frmHolidays:
         return std::make_unique<frmHolidays>(office, *this);
+    case ScreenName::frmVehicle:
+        return std::make_unique<frmVehicle>(office, *this);
+    case ScreenName::frmServices:
+        return std::make_unique<frmServices>(office, *this);
     default:
         return nullptr;
     }

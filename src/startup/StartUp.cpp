@@ -39,7 +39,6 @@ void Main(Office& office, Screens& screens) {
     Repaint(screens);
     screens.Create(ScreenName::frmStartup);
     screens.Create(ScreenName::frmVehicle);
-    office.fleet.Load();
     office.items.RefreshAll();
     office.deliveryTimes.BuildTimeLists();
 }

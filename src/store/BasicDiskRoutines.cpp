@@ -473,40 +473,48 @@ BasicDiskRoutines::Random& BasicDiskRoutines::RandomOn(qint16 fileNumber) {
 }
 
 off_t BasicDiskRoutines::StartOf(const Random& random, qint32 recordNumber, size_t size,
-                                 const QString& operation) {
+                                 const std::function<QString()>& operation) {
     if (recordNumber < 1)
         throw RuntimeFailure(FailureKind::BadRecord,
-                             operation + u" failed: records are numbered from 1."_s);
+                             operation() + u" failed: records are numbered from 1."_s);
     if (size > size_t(random.recordLength))
         throw RuntimeFailure(FailureKind::BadRecord,
-                             operation + u" failed: the record is longer than the file's."_s);
+                             operation() + u" failed: the record is longer than the file's."_s);
     return off_t(recordNumber - 1) * random.recordLength;
 }
 
 void BasicDiskRoutines::ReadRecord(qint16 fileNumber, qint32 recordNumber, void* record,
                                    size_t size) {
     const Random& random = RandomOn(fileNumber);
-    const QString operation = u"Reading record %1 of %2"_s.arg(recordNumber).arg(random.name);
+    const auto operation = [&] {
+        return u"Reading record %1 of %2"_s.arg(recordNumber).arg(random.name);
+    };
     const off_t start = StartOf(random, recordNumber, size, operation);
     const ssize_t count =
         Uninterrupted([&] { return ::pread(random.descriptor, record, size, start); });
-    if (count < 0)
-        throw FailureFromErrno(errno, operation);
+    if (count < 0) {
+        const int error = errno;
+        throw FailureFromErrno(error, operation());
+    }
     std::memset(static_cast<char*>(record) + count, 0, size - size_t(count));
 }
 
 void BasicDiskRoutines::WriteRecord(qint16 fileNumber, qint32 recordNumber, const void* record,
                                     size_t size) {
     const Random& random = RandomOn(fileNumber);
-    const QString operation = u"Writing record %1 of %2"_s.arg(recordNumber).arg(random.name);
+    const auto operation = [&] {
+        return u"Writing record %1 of %2"_s.arg(recordNumber).arg(random.name);
+    };
     const off_t start = StartOf(random, recordNumber, size, operation);
     const auto* bytes = static_cast<const char*>(record);
     for (size_t done = 0; done < size;) {
         const ssize_t count = Uninterrupted([&] {
             return ::pwrite(random.descriptor, bytes + done, size - done, start + off_t(done));
         });
-        if (count < 0)
-            throw FailureFromErrno(errno, operation);
+        if (count < 0) {
+            const int error = errno;
+            throw FailureFromErrno(error, operation());
+        }
         done += size_t(count);
     }
 }

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QVarLengthArray>
 
+#include <functional>
 #include <map>
 #include <sys/types.h>
 #include <vector>
@@ -111,8 +112,9 @@ private:
     bool AnyFileExists(const QString& name);
     qint16 FreeFileNumber() const;
     static void Flush(Output& output);
+    /// `operation` is asked only for a failure: a file has thousands of records.
     static off_t StartOf(const Random& random, qint32 recordNumber, size_t size,
-                         const QString& operation);
+                         const std::function<QString()>& operation);
     void Remove(const QString& name);
     qint16 OpenRecords(const QString& name, qint16 recordLength);
     Random& RandomOn(qint16 fileNumber);

@@ -222,12 +222,15 @@ double LeadingNumber(QStringView text) {
 }
 
 QString CurrencyText(Currency amount) {
-    const qint64 count = amount.TenThousandths();
-    Decimal decimal;
-    decimal.negative = count < 0;
-    decimal.digits = QByteArray::number(count < 0 ? quint64(0) - quint64(count) : quint64(count));
-    decimal.places = currencyValueDecimals;
-    return CurrencyTextOf(decimal, NumberText(amount.ToDouble()));
+    const RegionalFormats& formats = RegionalFormats::Current();
+    quint64 surplus = 1;
+    for (int place = formats.CurrencyDecimals(); place < currencyValueDecimals; ++place)
+        surplus *= 10;
+    const qint64 value = amount.TenThousandths();
+    const quint64 count = value < 0 ? quint64(0) - quint64(value) : quint64(value);
+    const bool isRoundedUp = 2 * (count % surplus) >= surplus;
+    const quint64 shown = count / surplus + (isRoundedUp ? 1 : 0);
+    return formats.Currency(shown, value < 0 && shown > 0);
 }
 
 QString CurrencyText(double amount) {

@@ -33,7 +33,14 @@ struct FixedText {
     QString Whole() const { return FromCodePage({bytes.data(), qsizetype(Width)}); }
     /// As readers take it: without leading and trailing blanks. A field that was never assigned
     /// holds NUL characters, which are no blanks.
-    QString Trimmed() const { return TrimBlanks(Whole()); }
+    QString Trimmed() const {
+        QByteArrayView text(bytes.data(), qsizetype(Width));
+        while (text.startsWith(' '))
+            text = text.sliced(1);
+        while (text.endsWith(' '))
+            text.chop(1);
+        return FromCodePage(text);
+    }
 };
 
 template <typename Integer>

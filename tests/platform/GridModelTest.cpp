@@ -45,3 +45,25 @@ TEST(GridModel, EqualRowsKeepTheirOrderInASort) {
     EXPECT_EQ(grid.Text(2, 1), u"1"_s);
     EXPECT_EQ(grid.Text(3, 1), u"3"_s);
 }
+
+TEST(GridModel, SortAsTextComparesCharacterByCharacter) {
+    GridModel grid({u"A"_s});
+    const QStringList texts = {u"9"_s, u"b"_s, u"10"_s, u"B"_s, u""_s, u"a"_s};
+    grid.SetRows(int(texts.size()) + 1);
+    for (int row = 1; row <= texts.size(); ++row)
+        grid.SetText(row, 0, texts[row - 1]);
+    grid.SortAsText(0);
+    const QStringList sorted = {u""_s, u"10"_s, u"9"_s, u"B"_s, u"a"_s, u"b"_s};
+    for (int row = 1; row <= sorted.size(); ++row)
+        EXPECT_EQ(grid.Text(row, 0), sorted[row - 1]);
+}
+
+TEST(GridModel, FindRowGivesTheFirstDataRowOrNone) {
+    GridModel grid({u"x"_s, u"B"_s});
+    grid.SetRows(4);
+    grid.SetText(2, 0, u"x"_s);
+    grid.SetText(3, 0, u"x"_s);
+    EXPECT_EQ(grid.FindRow(0, u"x"_s), 2);
+    EXPECT_EQ(grid.FindRow(1, u"x"_s), 0);
+    EXPECT_EQ(FailureOf([&] { (void)grid.FindRow(2, {}); }).Kind(), FailureKind::Subscript);
+}

@@ -324,6 +324,67 @@ TEST_F(PagePrinterTest, AFilledBoxReachesItsCornersFromAnyTwo) {
     EXPECT_NEAR(ink.bottom(), 2.0, nearby);
 }
 
+/// The document keeps pictures with a small loss.
+void ExpectColorNear(const QColor& color, const QColor& expected) {
+    EXPECT_NEAR(color.red(), expected.red(), 3);
+    EXPECT_NEAR(color.green(), expected.green(), 3);
+    EXPECT_NEAR(color.blue(), expected.blue(), 3);
+}
+
+/// A picture of three stripes: red, red that is half transparent, nothing.
+Picture Stripes() {
+    QImage image(90, 30, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    for (int y = 0; y < 30; ++y) {
+        for (int x = 0; x < 30; ++x) {
+            image.setPixelColor(x, y, QColor(255, 0, 0));
+            image.setPixelColor(x + 30, y, QColor(255, 0, 0, 128));
+        }
+    }
+    return {std::make_shared<const QImage>(image), 1350, 450};
+}
+
+TEST_F(PagePrinterTest, APictureIsStretchedToItsPlaceWhateverItsOwnSize) {
+    QImage image(10, 10, QImage::Format_RGB32);
+    image.fill(QColor(0, 0, 255));
+    printer.PaintPicture({std::make_shared<const QImage>(image), 150, 150}, 1440, 2880, 4320, 720);
+    const QRectF ink = InkWithin(Printed().Picture(), {0, 0, 8.5, 11});
+    EXPECT_NEAR(ink.left(), 1.0, nearby);
+    EXPECT_NEAR(ink.top(), 2.0, nearby);
+    EXPECT_NEAR(ink.right(), 4.0, nearby);
+    EXPECT_NEAR(ink.bottom(), 2.5, nearby);
+}
+
+TEST_F(PagePrinterTest, APictureIsPaintedInItsColorsAndWhereItIsTransparentThePaperStaysWhite) {
+    printer.SetPage(Orientation::Portrait, true);
+    printer.PaintPicture(Stripes(), 1440, 1440, 4320, 1440);
+    const QImage picture = Printed().Picture();
+    ExpectColorNear(ColorAt(picture, 1.5, 1.5), {255, 0, 0});
+    ExpectColorNear(ColorAt(picture, 2.5, 1.5), {255, 127, 127});
+    EXPECT_EQ(ColorAt(picture, 3.5, 1.5).name(), u"#ffffff"_s);
+}
+
+TEST_F(PagePrinterTest, WithoutColorAPictureIsGreyAndWhereItIsTransparentThePaperStaysWhite) {
+    printer.SetPage(Orientation::Portrait, false);
+    printer.PaintPicture(Stripes(), 1440, 1440, 4320, 1440);
+    const QImage picture = Printed().Picture();
+    // Each as light as the eye sees the color.
+    ExpectColorNear(ColorAt(picture, 1.5, 1.5), {130, 130, 130});
+    ExpectColorNear(ColorAt(picture, 2.5, 1.5), {167, 167, 167});
+    EXPECT_EQ(ColorAt(picture, 3.5, 1.5).name(), u"#ffffff"_s);
+}
+
+TEST_F(PagePrinterTest, APictureAloneIsAJobAndAPictureBesideThePageIsCutOff) {
+    QImage image(10, 10, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    printer.PaintPicture({std::make_shared<const QImage>(image), 150, 150}, -720, 1440, 1440, 1440);
+    const PrintedPages pages = Printed();
+    EXPECT_EQ(pages.Count(), 1);
+    const QRectF ink = InkWithin(pages.Picture(), {0, 0, 8.5, 11});
+    EXPECT_NEAR(ink.left(), 0.0, nearby);
+    EXPECT_NEAR(ink.right(), 0.5, nearby);
+}
+
 TEST_F(PagePrinterTest, TextOutsideOneByteCharactersIsPrinted) {
     printer.FontName = u"DejaVu Sans"_s;
     printer.PrintLine(u"Café 12 €"_s);

@@ -93,6 +93,20 @@ protected:
     Grid* grid = nullptr;
 };
 
+TEST_F(PrintSchedulesScreen, VehicleOfTheBoardStaysChosenWhenTheVehiclesAreReadAnew) {
+    WriteBusiness();
+    Open();
+    ClickVehicle(1);
+    WriteVehicles(office, {u"Bus"_s, u"Van 2"_s, u"Tanker"_s});
+    const auto* vehicles = Find<QListView>(board, u"lstVehicles"_s);
+    EXPECT_EQ(vehicles->currentIndex().row(), 2);
+    EXPECT_EQ(Caption(u"Label1(14)"_s), u"Tanker - 3/9/2026"_s);
+    folder.Remove(u"Vehicles.txt"_s);
+    WriteVehicles(office, {u"Bus"_s});
+    EXPECT_FALSE(vehicles->currentIndex().isValid());
+    EXPECT_EQ(Caption(u"Label1(14)"_s), u"Tanker - 3/9/2026"_s);
+}
+
 TEST_F(PrintSchedulesScreen, FirstShowingPicksTheFirstVehicleAndToday) {
     WriteBusiness();
     Open();

@@ -640,6 +640,20 @@ TEST_F(SettingsStoreTest, ColourFlagStaysAtItsFirstValueWhateverTheBoxShows) {
     EXPECT_EQ(folder.Read(printColors.name), "0\r\n0\r\n\"Arial\"\r\n#FALSE#\r\n3\r\n");
 }
 
+TEST_F(SettingsStoreTest, PrintDialogTakesTheCopiesWhenTheyAreReadAndNotWhenTheyAreSaved) {
+    Load(printColors);
+    EXPECT_EQ(live.printDialogCopies, 3);
+    folder.Write(printColors.name, printColors.Bytes());
+    Load(printColors);
+    EXPECT_EQ(live.printDialogCopies, 2);
+    EXPECT_EQ(live.cboCopies, u"2"_s);
+    live.PrintCopies = 5;
+    Save(printColors);
+    EXPECT_EQ(live.printDialogCopies, 2);
+    Load(printColors);
+    EXPECT_EQ(live.printDialogCopies, 5);
+}
+
 TEST_F(SettingsStoreTest, LogoSizeAbove2880IsReadAs1440WidthAndHeightApart) {
     const std::vector<std::tuple<QByteArray, float, float>> rows = {
         {"3000,2000\r\n", 1440.0F, 2000.0F},
@@ -792,6 +806,70 @@ TEST_F(SettingsStoreTest, FileCutAtAnyFieldFailsByName) {
         }
         folder.Write(file.name, bytes);
         EXPECT_NO_THROW(Load(file)) << file.name.toStdString();
+    }
+}
+
+TEST_F(SettingsStoreTest, FileCutAtAnyByteBeforeItsLastFieldFailsByNameAndStaysAsItIs) {
+    for (const SettingsFile& file : AllFiles()) {
+        const QByteArray whole = file.Bytes();
+        const qsizetype startOfLast = whole.size() - 2 - file.fields.back().size();
+        for (qsizetype length = 0; length <= startOfLast; ++length) {
+            const RuntimeFailure failure = FailureOfLoading(file, whole.left(length));
+            EXPECT_TRUE(failure.Kind() == FailureKind::ReadPastEnd ||
+                        failure.Kind() == FailureKind::TypeMismatch)
+                << file.name.toStdString() << ' ' << length;
+            EXPECT_TRUE(failure.Sentence().startsWith(u"Reading "_s + file.name)) << failure.what();
+            EXPECT_EQ(folder.Read(file.name), whole.left(length));
+        }
+    }
+}
+
+TEST_F(SettingsStoreTest, FileCutWithinItsLastFieldIsReadAsFarAsItGoesOrFails) {
+    for (const SettingsFile& file : AllFiles()) {
+        const QByteArray whole = file.Bytes();
+        const qsizetype endOfLast = whole.size() - 2;
+        const qsizetype startOfLast = endOfLast - file.fields.back().size();
+        for (qsizetype length = startOfLast + 1; length <= whole.size(); ++length) {
+            folder.Write(file.name, whole.left(length));
+            const bool isFlag = file.fields.back().startsWith('#');
+            // A delivery charge of which only the quote or the currency sign is left is no number.
+            const bool isNoAmount = file.name == deliverySettings.name && length < startOfLast + 3;
+            if ((isFlag && length < endOfLast) || isNoAmount)
+                EXPECT_EQ(FailureOf([&] { Load(file); }).Kind(), FailureKind::TypeMismatch)
+                    << file.name.toStdString() << ' ' << length;
+            else
+                EXPECT_NO_THROW(Load(file)) << file.name.toStdString() << ' ' << length;
+            EXPECT_EQ(folder.Read(file.name), whole.left(length));
+        }
+    }
+}
+
+TEST_F(SettingsStoreTest, ThousandFieldsBehindTheLastAreIgnoredAndGoneWithTheNextSave) {
+    QByteArray more;
+    for (int i = 0; i < 1000; ++i)
+        more += "\"more\",7,#TRUE#\r\n";
+    pictures.Files[u"/home/dairy/Logo, gr\u00fcn.bmp"_s] = {1500, 1500};
+    for (const SettingsFile& file : AllFiles()) {
+        for (const QByteArray& between : {QByteArray(), QByteArray(",")}) {
+            const QByteArray whole = file.Bytes();
+            folder.Write(file.name, whole.chopped(between.isEmpty() ? 0 : 2) + between + more);
+            Load(file);
+            Save(file);
+            EXPECT_EQ(folder.Read(file.name), whole) << file.name.toStdString();
+        }
+    }
+}
+
+TEST_F(SettingsStoreTest, TextFieldTakesEveryValue) {
+    for (const char* value : {"abc", "7", "#TRUE#", "", "-1.5"}) {
+        for (size_t i = 0; i < businessData.fields.size(); ++i) {
+            folder.Write(businessData.name, businessData.With(i, value));
+            Load(businessData);
+            EXPECT_EQ(live.BusinessData[i], QString::fromLatin1(value)) << i << ' ' << value;
+        }
+        folder.Write(taxSettings.name, taxSettings.With(2, value));
+        Load(taxSettings);
+        EXPECT_EQ(live.cboRate1, QString::fromLatin1(value)) << value;
     }
 }
 

@@ -110,6 +110,23 @@ TEST_F(StartUpSequence, VehiclesAndItemsAreThereWhenTheMenuComes) {
     EXPECT_EQ(AddItemNames(), (QStringList{u"Milk"_s, u"Leaflet"_s, u"Crate"_s}));
 }
 
+TEST_F(StartUpSequence, VehicleScreenIsMadeUnseenBehindTheMenuAndLoadsTheVehicles) {
+    Main(office, screens);
+    EXPECT_NE(screens.Find(ScreenName::frmVehicle), nullptr);
+    EXPECT_FALSE(IsShown(ScreenName::frmVehicle));
+    EXPECT_EQ(office.fleet.CapacityUnits.rowCount(), 9);
+}
+
+TEST_F(StartUpSequence, TooManyVehiclesStopBehindTheMenu) {
+    folder.Write(u"Vehicles.txt"_s, QByteArray(137 * 256, ' '));
+    const RuntimeFailure failure = FailureOf([&] { Main(office, screens); });
+    EXPECT_EQ(failure.Kind(), FailureKind::Overflow);
+    EXPECT_EQ(failure.Sentence(),
+              u"Reading Vehicles.txt failed: it holds more than 255 vehicles."_s);
+    EXPECT_NE(screens.Find(ScreenName::frmStartup), nullptr);
+    EXPECT_EQ(screens.Find(ScreenName::frmVehicle), nullptr);
+}
+
 TEST_F(StartUpSequence, ItemFilesLostButInBackupAreBroughtBackAndLoaded) {
     folder.Write(u"Backup/NXInventoriedItems.txt"_s, PricedItemBytes("Milk"));
     folder.Write(u"Backup/NonInventoriedItems.txt"_s, NonPricedItemBytes("Leaflet"));

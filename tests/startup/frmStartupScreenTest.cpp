@@ -1,10 +1,13 @@
+#include "platform/Grid.h"
 #include "platform/RoutineLabel.h"
 #include "startup/frmStartup.h"
+#include "support/SampleSlips.h"
 #include "support/ScreenTest.h"
 
 #include <QAction>
 #include <QFile>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QTabWidget>
 #include <QUrl>
@@ -14,6 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr ScreenName menu = ScreenName::frmStartup;
+constexpr ScreenName vehicles = ScreenName::frmVehicle;
 
 const QString notBuilt = u"This routine is not part of this version yet."_s;
 
@@ -67,20 +71,21 @@ TEST_F(StartupScreen, AllMasterFilesOpenAllRoutines) {
 
 TEST_F(StartupScreen, NewUserIsSentToTheProductsFirst) {
     user.ExpectMessage(u"Create at least One Deliverable Product Now"_s);
-    user.ExpectMessage(notBuilt);
     screens.Show(menu);
     EXPECT_EQ(office.MenuChoice, 6);
     EXPECT_EQ(Open(), (QList<int>{6, 7, 8, 9}));
-    EXPECT_TRUE(IsShown(menu));
+    EXPECT_FALSE(IsShown(menu));
+    EXPECT_TRUE(IsShown(ScreenName::frmServices));
 }
 
 TEST_F(StartupScreen, WithProductsTheVehiclesComeNext) {
     folder.Write(u"NXInventoriedItems.txt"_s, {});
     user.ExpectMessage(u"Create at least One Delivery Vehicle Now"_s);
-    user.ExpectMessage(notBuilt);
     screens.Show(menu);
     EXPECT_EQ(office.MenuChoice, 4);
     EXPECT_EQ(Open(), (QList<int>{4, 7, 8, 9}));
+    EXPECT_FALSE(IsShown(menu));
+    EXPECT_TRUE(IsShown(ScreenName::frmVehicle));
 }
 
 TEST_F(StartupScreen, WithProductsAndVehiclesTheCustomerPanelStands) {
@@ -97,9 +102,9 @@ TEST_F(StartupScreen, VehiclesDeletedOnAWorkingSystemAreAskedForAtTheNextActivat
     folder.Remove(u"Vehicles.txt"_s);
     folder.Write(u"TesselDelivery/Deliveries/1.txt"_s, "1\r\n");
     user.ExpectMessage(u"Create at least One Delivery Vehicle Now"_s);
-    user.ExpectMessage(notBuilt);
     screens.Show(menu);
     EXPECT_EQ(Open(), (QList<int>{4, 7, 8, 9}));
+    EXPECT_TRUE(IsShown(ScreenName::frmVehicle));
 }
 
 TEST_F(StartupScreen, MasterFilesInBackupCount) {
@@ -209,15 +214,80 @@ TEST_F(StartupScreen, ClickOnARoutineHidesTheMenuAndShowsItsScreen) {
     EXPECT_TRUE(IsShown(ScreenName::frmPrintSchedules));
 }
 
+TEST_F(StartupScreen, ProductsRoutineShowsTheProducts) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    Click(menu, u"lblSub(6)"_s);
+    EXPECT_EQ(office.MenuChoice, 6);
+    EXPECT_FALSE(IsShown(menu));
+    EXPECT_TRUE(IsShown(ScreenName::frmServices));
+}
+
 TEST_F(StartupScreen, RoutineWithoutAScreenLeavesTheOperatorOnTheMenu) {
     WriteMasterFiles();
     screens.Show(menu);
-    for (const int i : {1, 2, 4, 5, 6, 7, 8, 9}) {
+    for (const int i : {1, 2, 5, 7, 8, 9}) {
         user.ExpectMessage(notBuilt);
         Click(menu, u"lblSub(%1)"_s.arg(i));
         EXPECT_EQ(office.MenuChoice, i);
         EXPECT_TRUE(IsShown(menu));
     }
+}
+
+TEST_F(StartupScreen, VehiclesRoutineShowsTheVehicleScreen) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    Click(menu, u"lblSub(4)"_s);
+    EXPECT_EQ(office.MenuChoice, 4);
+    EXPECT_FALSE(IsShown(menu));
+    EXPECT_TRUE(IsShown(ScreenName::frmVehicle));
+}
+
+TEST_F(StartupScreen, FirstRunGoesFromProductsToVehiclesToCustomers) {
+    user.ExpectMessage(u"Create at least One Deliverable Product Now"_s);
+    screens.Show(menu);
+    EXPECT_EQ(Open(), (QList<int>{6, 7, 8, 9}));
+    ASSERT_TRUE(IsShown(ScreenName::frmServices));
+
+    folder.Write(u"NXInventoriedItems.txt"_s, {});
+    user.ExpectMessage(u"Create at least One Delivery Vehicle Now"_s);
+    screens.Show(menu);
+    ASSERT_TRUE(IsShown(vehicles));
+
+    // Back without a vehicle: the menu asks for one again.
+    user.ExpectMessage(u"Create at least One Delivery Vehicle Now"_s);
+    Click(vehicles, u"cmdServices(0)"_s);
+    EXPECT_FALSE(folder.Has(u"Vehicles.txt"_s));
+    EXPECT_FALSE(IsShown(menu));
+    ASSERT_TRUE(IsShown(vehicles));
+
+    Type(Find<QLineEdit>(vehicles, u"txtDescription"_s), u"Van 1"_s);
+    Click(vehicles, u"ckMixed"_s);
+    Click(vehicles, u"cmdServices(13)"_s);
+    Click(vehicles, u"cmdServices(0)"_s);
+    EXPECT_TRUE(folder.Has(u"Vehicles.txt"_s));
+    EXPECT_FALSE(IsShown(vehicles));
+    EXPECT_TRUE(IsShown(menu));
+    EXPECT_TRUE(PanelIsShown());
+    EXPECT_EQ(Open(), (QList<int>{2, 7, 8, 9}));
+    EXPECT_FALSE(folder.Has(u"CustomerData.txt"_s));
+}
+
+TEST_F(StartupScreen, DeletingTheLastVehicleLeadsBackToTheVehicles) {
+    WriteMasterFiles();
+    folder.Remove(u"Vehicles.txt"_s);
+    WriteVehicles(office, {u"Van 1"_s});
+    screens.Show(menu);
+    EXPECT_EQ(Open().size(), 10);
+    Click(menu, u"lblSub(4)"_s);
+    ClickCell(Find<Grid>(vehicles, u"fgItems"_s), 1, 0);
+    user.ExpectQuestion(u"This will DELETE the Selected Vehicle"_s, u"Delete Sales Item"_s,
+                        Answer::Yes);
+    Click(vehicles, u"cmdServices(10)"_s);
+    user.ExpectMessage(u"Create at least One Delivery Vehicle Now"_s);
+    Click(vehicles, u"cmdServices(0)"_s);
+    EXPECT_EQ(Open(), (QList<int>{4, 7, 8, 9}));
+    EXPECT_TRUE(IsShown(vehicles));
 }
 
 TEST_F(StartupScreen, DoubleClickOnTheNoteActsAsRoutineOne) {
@@ -256,7 +326,8 @@ TEST_F(StartupScreen, ExitAndTheCloseBoxAskForTheEnd) {
 TEST_F(StartupScreen, OnlyTheUsersCloseOfAScreenAsksForTheEnd) {
     WriteMasterFiles();
     int requests = 0;
-    for (const ScreenName name : {ScreenName::frmSplash, menu, ScreenName::frmPrintSchedules}) {
+    for (const ScreenName name :
+         {ScreenName::frmSplash, menu, ScreenName::frmPrintSchedules, vehicles}) {
         screens.Show(name);
         screens.Find(name)->close();
         EXPECT_FALSE(IsShown(name));

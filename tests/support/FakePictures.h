@@ -8,16 +8,19 @@
 #include <map>
 
 /// Pictures by their paths, given by their size in twips; a size of nothing is a file that is no
-/// picture.
+/// picture. A test that shows a picture gives its dots as well.
 class FakePictures : public PictureFiles {
 public:
     std::map<QString, QSizeF> Files;
+    std::map<QString, std::shared_ptr<const QImage>> Images;
 
     bool Exists(const QString& path) const override { return Files.contains(path); }
     Picture Load(const QString& path) const override {
         const auto found = Files.find(path);
         if (found == Files.end() || found->second.isEmpty())
             throw RuntimeFailure(FailureKind::BadPicture, path);
-        return {nullptr, found->second.width(), found->second.height()};
+        const auto image = Images.find(path);
+        return {image == Images.end() ? nullptr : image->second, found->second.width(),
+                found->second.height()};
     }
 };

@@ -1,7 +1,5 @@
 #include "support/RecordingPrinter.h"
 
-#include "platform/RuntimeFailure.h"
-
 #include <algorithm>
 #include <gtest/gtest.h>
 
@@ -35,6 +33,8 @@ void RecordingPrinter::Line(double x1, double y1, double x2, double y2, quint32 
 }
 
 void RecordingPrinter::Box(double x1, double y1, double x2, double y2, quint32 color) {
+    if (FailingBox && int(Boxes.size()) + 1 == *FailingBox)
+        throw Stopped();
     Boxes.push_back({page, x1, y1, x2, y2, color, DrawWidth});
 }
 
@@ -55,7 +55,7 @@ void RecordingPrinter::NewPage() {
 
 void RecordingPrinter::EndJob() {
     if (FailsAtEndOfJob)
-        throw RuntimeFailure(FailureKind::PrinterFailure, u"The printer stopped."_s);
+        throw Stopped();
     ++Jobs;
     page = 1;
     CurrentX = 0;
@@ -71,8 +71,11 @@ void RecordingPrinter::AbandonJob() {
 
 void RecordingPrinter::DrawText(double x, double y, const QString& text) {
     if (FailingText && int(Texts.size()) + 1 == *FailingText)
-        throw RuntimeFailure(FailsAsCancelled ? FailureKind::PrintCancelled
-                                              : FailureKind::PrinterFailure,
-                             u"The printer stopped."_s);
+        throw Stopped();
     Texts.push_back({page, x, y, text, FontName, FontSize, FontBold, FontUnderline, ForeColor});
+}
+
+RuntimeFailure RecordingPrinter::Stopped() const {
+    return {FailsAsCancelled ? FailureKind::PrintCancelled : FailureKind::PrinterFailure,
+            u"The printer stopped."_s};
 }

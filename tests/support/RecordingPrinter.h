@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/PrinterSurface.h"
+#include "platform/RuntimeFailure.h"
 
 #include <QString>
 
@@ -44,7 +45,9 @@ public:
     int AbandonedJobs = 0;
     /// The call of Print (counted from 1) that fails, as a printer that dies in mid-job.
     std::optional<int> FailingText;
-    /// Makes that failure the operator's cancelling.
+    /// The box (counted from 1) that fails.
+    std::optional<int> FailingBox;
+    /// Makes such a failure the operator's cancelling.
     bool FailsAsCancelled = false;
     /// The printer dies when the job is sent off.
     bool FailsAtEndOfJob = false;
@@ -71,5 +74,7 @@ protected:
     void DrawText(double x, double y, const QString& text) override;
 
 private:
+    RuntimeFailure Stopped() const;
+
     int page = 1;
 };

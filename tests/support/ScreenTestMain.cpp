@@ -2,7 +2,9 @@
 #include "platform/Theme.h"
 #include "support/ScreenTest.h"
 
+#include <QSettings>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -31,6 +33,9 @@ int main(int argumentCount, char** arguments) {
     testing::InitGoogleTest(&argumentCount, arguments);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QStandardPaths::setTestModeEnabled(true);
+    // Tests run side by side, and each keeps window layouts of its own.
+    const QTemporaryDir layouts;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, layouts.path());
     GuardedApplication application(argumentCount, arguments);
     application.OnFailure = TakenFailures::Take;
     Theme::Apply(application);

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "platform/Screen.h"
+
+#include <map>
+
+class Card;
+class Grid;
+class Office;
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class Screens;
+class VehicleFleet;
+
+/// The list of delivery vehicles and the fields to enter one, apart from the slips that name them.
+class frmVehicle : public Screen {
+    Q_OBJECT
+
+public:
+    /// Loads the fleet.
+    frmVehicle(Office& theOffice, Screens& allScreens);
+
+    void Activate() override;
+
+    /// Places in the array cmdServices.
+    enum Button {
+        ReturnToMenu = 0,
+        ClearCapacity = 1,
+        CloseInstructions = 2,
+        AddNew = 8,
+        Modify = 9,
+        Delete = 10,
+        ClearDescription = 11,
+        Save = 13,
+        CancelEntry = 14,
+    };
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QPushButton* MakeButton(Button index, const QString& caption, const QString& tip = {});
+    void MakeFootButtons();
+    void MakeMenu();
+    QWidget* MakeEntryCard();
+    void MakeFields();
+    QWidget* MakeInstructions();
+    QWidget* MakeFleetGrid();
+    void MoveOnWithEnter(const QWidget* from);
+
+    void ReadFields();
+    void ShowFields();
+    void ShowProductChoice();
+    void ShowFleet();
+    void ShowWhere();
+    void ShowAll();
+
+    void cmdServices_Click(Button index);
+    void cmdServices_ReturnToMenu();
+    void cmdServices_ClearCapacity();
+    void cmdServices_AddNew();
+    void cmdServices_Modify();
+    void cmdServices_Delete();
+    void cmdServices_Save();
+    void fgItems_Click(int row);
+    void fgItems_KeyPick();
+    void ckMixed_Click();
+    void mnuInstructions_Click();
+
+    Office& office;
+    Screens& screens;
+    VehicleFleet& fleet;
+
+    QLineEdit* txtDescription = nullptr;
+    QLineEdit* txtCapacity = nullptr;
+    QComboBox* cboCapacity = nullptr;
+    QCheckBox* ckMixed = nullptr;
+    QComboBox* cboProducts = nullptr;
+    /// The label of cboProducts, Label1(3).
+    QLabel* lblProducts = nullptr;
+    Grid* fgItems = nullptr;
+    Card* fraInstructions = nullptr;
+    std::map<Button, QPushButton*> cmdServices;
+};

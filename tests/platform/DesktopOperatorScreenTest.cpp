@@ -1,0 +1,204 @@
+#include "platform/DesktopOperator.h"
+#include "support/TestFolder.h"
+#include "support/TextOutput.h"
+
+#include <QColorDialog>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString filter =
+    u"Pictures |(*.bmp;*.BMP;*.ico;*.ICO; *.cur; *.CUR;*jpg;*JPG; *.EMF)|All|*.*"_s;
+
+/// What the operator at a dialog does once it stands on the screen. A dialog that is still open
+/// afterwards is cancelled.
+template <typename Dialog>
+void AtTheDialog(const std::function<void(Dialog&)>& act) {
+    QTimer::singleShot(0, qApp, [act] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        if (!dialog) {
+            ADD_FAILURE() << "This dialog does not show.";
+            if (QApplication::activeModalWidget())
+                QApplication::activeModalWidget()->close();
+            return;
+        }
+        const bool isActive = QTest::qWaitForWindowActive(dialog);
+        EXPECT_TRUE(isActive);
+        act(*dialog);
+        if (dialog->isVisible())
+            dialog->reject();
+    });
+}
+
+void ClickButton(const QDialog& dialog, QDialogButtonBox::StandardButton button) {
+    QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
+}
+
+/// The data folder is the current one, with files of all kinds in it.
+class FileDialogTest : public testing::Test {
+protected:
+    FileDialogTest() {
+        for (const QString& name :
+             {u"a.bmp"_s, u"B.BMP"_s, u"c.ico"_s, u"D.ICO"_s, u"e.cur"_s, u"F.CUR"_s, u"g.jpg"_s,
+              u"H.JPG"_s, u"ijpg"_s, u"J.EMF"_s, u"k.emf"_s, u"l.png"_s, u"m.jpeg"_s, u"n.txt"_s,
+              u"o.bmp.txt"_s, u"p"_s})
+            folder.Write(name, "x");
+        folder.MakeFolder(u"Inner"_s);
+        EXPECT_TRUE(QDir::setCurrent(folder.Path()));
+    }
+
+    static QStringList Shown(const QFileDialog& dialog) {
+        const auto* list = dialog.findChild<QListView*>(u"listView"_s);
+        QStringList names;
+        for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row)
+            names += list->model()->index(row, 0, list->rootIndex()).data().toString();
+        names.sort(Qt::CaseInsensitive);
+        return names;
+    }
+    /// The folder is read in the background.
+    static void ExpectShown(const QFileDialog& dialog, const QStringList& expected) {
+        const bool isShown = QTest::qWaitFor([&] { return Shown(dialog) == expected; });
+        EXPECT_TRUE(isShown) << Shown(dialog).join(u' ').toStdString();
+    }
+
+    TestFolder folder;
+    DesktopOperator user;
+};
+
+} // namespace
+
+TEST_F(FileDialogTest, FirstFilterShowsFoldersAndThePicturesItNames) {
+    AtTheDialog<QFileDialog>([](QFileDialog& dialog) {
+        const auto* types = dialog.findChild<QComboBox*>(u"fileTypeCombo"_s);
+        EXPECT_EQ(types->count(), 2);
+        EXPECT_EQ(types->currentIndex(), 0);
+        EXPECT_TRUE(types->itemText(0).startsWith(u"Pictures ("_s));
+        EXPECT_TRUE(types->itemText(1).startsWith(u"All ("_s));
+        ExpectShown(dialog,
+                    {u"a.bmp"_s, u"B.BMP"_s, u"c.ico"_s, u"D.ICO"_s, u"e.cur"_s, u"F.CUR"_s,
+                     u"g.jpg"_s, u"H.JPG"_s, u"ijpg"_s, u"Inner"_s, u"J.EMF"_s, u"k.emf"_s});
+    });
+    EXPECT_EQ(user.AskForFile(filter), std::nullopt);
+}
+
+TEST_F(FileDialogTest, SecondFilterShowsEverythingAlsoANameWithoutADot) {
+    AtTheDialog<QFileDialog>([](QFileDialog& dialog) {
+        auto* types = dialog.findChild<QComboBox*>(u"fileTypeCombo"_s);
+        types->setFocus();
+        QTest::keyClick(types, Qt::Key_Down);
+        EXPECT_EQ(types->currentIndex(), 1);
+        ExpectShown(dialog, {u"a.bmp"_s, u"B.BMP"_s, u"c.ico"_s, u"D.ICO"_s, u"e.cur"_s, u"F.CUR"_s,
+                             u"g.jpg"_s, u"H.JPG"_s, u"ijpg"_s, u"Inner"_s, u"J.EMF"_s, u"k.emf"_s,
+                             u"l.png"_s, u"m.jpeg"_s, u"n.txt"_s, u"o.bmp.txt"_s, u"p"_s});
+    });
+    EXPECT_EQ(user.AskForFile(filter), std::nullopt);
+}
+
+TEST_F(FileDialogTest, TypedNameGivesTheFullPath) {
+    AtTheDialog<QFileDialog>([](QFileDialog& dialog) {
+        auto* name = dialog.findChild<QLineEdit*>(u"fileNameEdit"_s);
+        QTest::keyClicks(name, u"l.png"_s);
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    EXPECT_EQ(user.AskForFile(filter), folder.PathOf(u"l.png"_s));
+}
+
+TEST_F(FileDialogTest, ClickedFileGivesTheFullPath) {
+    AtTheDialog<QFileDialog>([](QFileDialog& dialog) {
+        auto* list = dialog.findChild<QListView*>(u"listView"_s);
+        QModelIndex file;
+        const bool isThere = QTest::qWaitFor([&] {
+            for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row) {
+                file = list->model()->index(row, 0, list->rootIndex());
+                if (file.data().toString() == u"J.EMF"_s)
+                    return true;
+            }
+            return false;
+        });
+        ASSERT_TRUE(isThere);
+        list->scrollTo(file);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          list->visualRect(file).center());
+        ClickButton(dialog, QDialogButtonBox::Open);
+    });
+    EXPECT_EQ(user.AskForFile(filter), folder.PathOf(u"J.EMF"_s));
+}
+
+TEST_F(FileDialogTest, CancelAndEscapeGiveNothing) {
+    AtTheDialog<QFileDialog>([](QFileDialog& dialog) {
+        QTest::keyClicks(dialog.findChild<QLineEdit*>(u"fileNameEdit"_s), u"a.bmp"_s);
+        ClickButton(dialog, QDialogButtonBox::Cancel);
+    });
+    EXPECT_EQ(user.AskForFile(filter), std::nullopt);
+    AtTheDialog<QFileDialog>([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    EXPECT_EQ(user.AskForFile(filter), std::nullopt);
+}
+
+TEST_F(FileDialogTest, NameOfNoFileIsNotTaken) {
+    AtTheDialog<QFileDialog>([](QFileDialog& dialog) {
+        // The dialog says so in a message of its own, which waits for its OK.
+        QTimer::singleShot(0, qApp, [&dialog] {
+            QWidget* message = QApplication::activeModalWidget();
+            EXPECT_NE(message, &dialog);
+            if (message != &dialog)
+                message->close();
+        });
+        auto* name = dialog.findChild<QLineEdit*>(u"fileNameEdit"_s);
+        QTest::keyClicks(name, u"gone.bmp"_s);
+        QTest::keyClick(name, Qt::Key_Return);
+        EXPECT_TRUE(dialog.isVisible());
+    });
+    EXPECT_EQ(user.AskForFile(filter), std::nullopt);
+}
+
+TEST(ColorDialogTest, OpensAtTheColorGivenAndGivesTheChosenOneWithRedInTheLowestByte) {
+    DesktopOperator user;
+    AtTheDialog<QColorDialog>([](QColorDialog& dialog) {
+        EXPECT_EQ(dialog.currentColor(), QColor(0x20, 0x40, 0x80));
+        dialog.setCurrentColor(QColor(0xff, 0x80, 0x01));
+        ClickButton(dialog, QDialogButtonBox::Ok);
+    });
+    EXPECT_EQ(user.AskForColor(0x804020), 0x0180ffU);
+}
+
+TEST(ColorDialogTest, CancelGivesNothing) {
+    DesktopOperator user;
+    AtTheDialog<QColorDialog>([](QColorDialog& dialog) {
+        dialog.setCurrentColor(QColor(0xff, 0x80, 0x01));
+        ClickButton(dialog, QDialogButtonBox::Cancel);
+    });
+    EXPECT_EQ(user.AskForColor(0), std::nullopt);
+}
+
+TEST(FontDialogTest, OpensAtTheFontGivenAndGivesTheNameOfTheChosenOneOnly) {
+    DesktopOperator user;
+    AtTheDialog<QFontDialog>([](QFontDialog& dialog) {
+        EXPECT_EQ(dialog.currentFont().family(), u"DejaVu Sans"_s);
+        dialog.setCurrentFont(QFont(u"DejaVu Sans Mono"_s, 36, QFont::Bold, true));
+        ClickButton(dialog, QDialogButtonBox::Ok);
+    });
+    EXPECT_EQ(user.AskForFont(u"DejaVu Sans"_s), u"DejaVu Sans Mono"_s);
+}
+
+TEST(FontDialogTest, CancelGivesNothing) {
+    DesktopOperator user;
+    AtTheDialog<QFontDialog>([](QFontDialog& dialog) {
+        dialog.setCurrentFont(QFont(u"DejaVu Sans Mono"_s));
+        ClickButton(dialog, QDialogButtonBox::Cancel);
+    });
+    EXPECT_EQ(user.AskForFont(u"DejaVu Sans"_s), std::nullopt);
+}
