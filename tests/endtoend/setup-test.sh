@@ -24,10 +24,10 @@ en_US)
         EnterFields 'Corner Dairy' '12 Mill Road' '' Springfield ILL 62704 217-555-0199 '' \
             'FEIN 00-0000000'
     }
-    # From the rate of the first tax, the list being as it was.
+    # From the rate of the first tax; the heading of the second comes before its own in the list.
     EnterTaxes() {
         ReplaceText 6.25
-        Keys Tab space Tab Down Tab
+        Keys Tab space Tab Up Tab
         ReplaceText 1,5
     }
     # From Caller ID: that, and the telephone behind the port.
@@ -230,9 +230,15 @@ ExpectFrame() {
 # The tab before the last. The keys begin on its first sub-tab, and go to the first field of each
 # further one.
 EnterOptions() {
-    # Behind the three buttons that change the look: colour, copies, paper.
+    local dialog
+    # Behind the three buttons that change the look: colour. Back to the text colour, which stays
+    # black, and on to copies and paper.
     Press "$setupWindow" ctrl+shift+Tab
-    Keys Tab Tab Tab Tab space Tab
+    Keys Tab Tab Tab Tab space shift+Tab shift+Tab space
+    dialog=$(WaitForWindow 'Select Color')
+    Press "$dialog" Return
+    WaitUntilGone "$dialog" 'Select Color'
+    Press "$setupWindow" Tab Tab Tab
     ReplaceText "$copies"
     [[ ${#papers[@]} -eq 0 ]] || Keys "${papers[@]}"
     Keys ctrl+Tab Tab
@@ -247,24 +253,23 @@ EnterOptions() {
     EnterAssistance
 }
 
-# TakeTabPictures NAME: from the last of the sub-tabs once around, their row having the keys.
+# TakeTabPictures NAME: from the last of the sub-tabs once around, their row having the keys. The
+# band at the head is left out, which has no name of the business before the first save.
 TakeTabPictures() {
     local i
     for i in "${!tabPictures[@]}"; do
         Press "$setupWindow" ctrl+Tab
         sleep 0.5
-        import -window "$setupWindow" "$dayFolder/$1-$i.png"
+        import -window "$setupWindow" -crop +0+50 +repage "$dayFolder/$1-$i.png"
     done
 }
 
-# ExpectSamePictures NAME NAME: but for two words that take the black of the text colour over the
-# window's only when the screen comes up.
+# ExpectSamePictures NAME NAME
 ExpectSamePictures() {
     local i dots
     for i in "${!tabPictures[@]}"; do
         [[ -n ${tabPictures[i]} ]] || continue
-        dots=$(compare -fuzz 20% -metric AE "$dayFolder/$1-$i.png" "$dayFolder/$2-$i.png" null: \
-            2>&1 || true)
+        dots=$(compare -metric AE "$dayFolder/$1-$i.png" "$dayFolder/$2-$i.png" null: 2>&1 || true)
         [[ $dots == 0 ]] || FailDay "the tab ${tabPictures[i]} looks different in $dots dots."
     done
 }
