@@ -5,6 +5,8 @@
 titleScreen='Tessel Delivery'
 menuScreen='Delivery Scheduling Main Menu'
 boardScreen='Print Delivery Schedules and Invoices'
+setupScreen='Tessel Delivery Setup'
+holidaysScreen='Block Holidays'
 displaySize=1280x800x24
 secondsToWait=60
 
@@ -113,7 +115,7 @@ FindMessage() {
     local window
     for window in $(Windows); do
         case $(TitleOf "$window") in
-        "$menuScreen" | "$boardScreen") ;;
+        "$menuScreen" | "$boardScreen" | "$setupScreen" | "$holidaysScreen") ;;
         *)
             if [[ $window != "$titleWindow" ]]; then
                 printf '%s\n' "$window"
@@ -139,11 +141,21 @@ WaitForScreen() {
     FailDay "the screen \"$title\" did not appear."
 }
 
+# A window that has only just come up may not take the keys at once.
+FocusWindow() {
+    local i
+    for ((i = 0; i < 10; i++)); do
+        ! timeout 10 xdotool windowfocus --sync "$1" 2>/dev/null || return 0
+        sleep 0.1
+    done
+    FailDay "a window does not take the keys."
+}
+
 # Press WINDOW KEY...
 Press() {
     local window=$1
     shift
-    timeout 10 xdotool windowfocus --sync "$window" || FailDay "a window does not take the keys."
+    FocusWindow "$window"
     xdotool key --clearmodifiers --delay 50 "$@"
 }
 

@@ -26,6 +26,7 @@ playLocale=en_US.UTF-8
 # A name that a careless road from the folder to a file would trip over.
 businessName='Büro Süd 1'
 business=''
+setupWindow=''
 playProcesses=()
 
 # A clock that runs on from the morning of the set day, as words for env. The loader puts the
@@ -155,6 +156,55 @@ AnswerPastSlips() {
 
 RemovePastSlips() {
     rm "$1"/TesselDelivery/{Deliveries,DeliveryItems}/2026000[1-5].txt
+}
+
+# Type TEXT: into the field that has the keys.
+Type() {
+    xdotool type --clearmodifiers --delay 20 -- "$1"
+}
+
+# Keys KEY...: wherever the keys go.
+Keys() {
+    xdotool key --clearmodifiers --delay 50 "$@"
+}
+
+# Times COUNT KEY: that key, as words for Press and Keys.
+Times() {
+    local i
+    for ((i = 0; i < $1; i++)); do
+        printf '%s\n' "$2"
+    done
+}
+
+# Through the menu bar: Alt opens it at Files, whose first item is the setup screen. Its window is
+# in setupWindow afterwards.
+OpenSetup() {
+    local menu
+    menu=$(WaitForWindow "$menuScreen")
+    Press "$menu" Alt_L Down Return
+    setupWindow=$(WaitForWindow "$setupScreen")
+}
+
+# OpenSetupOptions STYLE: to the row of the tabs of the options. The address style of the USA has
+# put the keys into the postal code, six places behind the row of the outer tabs; the international
+# one has left them on that row.
+OpenSetupOptions() {
+    local back=()
+    [[ $1 != USA ]] || mapfile -t back < <(Times 6 shift+Tab)
+    Press "$setupWindow" "${back[@]}" Right Right Tab
+}
+
+# Not from the tab of the logo, where another button has that key as well.
+SaveSetup() {
+    Press "$setupWindow" alt+s
+}
+
+# SetTextFile FILE LINE...: each line with its line end, in the code page of the data files.
+SetTextFile() {
+    local file=$1
+    shift
+    [[ $# -eq 0 ]] || printf '%s\r\n' "$@" | iconv -f UTF-8 -t WINDOWS-1252 >"$file"
+    [[ $# -gt 0 ]] || : >"$file"
 }
 
 # From the menu to the print of the whole day of the board's first vehicle.
