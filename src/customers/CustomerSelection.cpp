@@ -2,6 +2,7 @@
 
 #include "customers/CustomerNames.h"
 #include "platform/RuntimeFailure.h"
+#include "setup/AddressStyle.h"
 #include "store/TextLines.h"
 
 #include <algorithm>
@@ -96,7 +97,7 @@ void CustomerSelection::PrefillAddress() {
 }
 
 void CustomerSelection::TakeAddressStyle() {
-    UsaAddressStyle = settings.cmdAddress == "USA Style Address"_L1;
+    UsaAddressStyle = IsUsaStyle(settings);
 }
 
 void CustomerSelection::SetAccountType(const QString& type) {

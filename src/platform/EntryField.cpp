@@ -22,29 +22,33 @@ bool IsEnter(const QKeyEvent& press) {
     return press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter;
 }
 
-bool LeadsAway(const QKeyEvent& press) {
-    switch (press.key()) {
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-    case Qt::Key_Shift:
-    case Qt::Key_Control:
-    case Qt::Key_Alt:
-    case Qt::Key_AltGr:
-    case Qt::Key_Meta:
-    case Qt::Key_CapsLock:
-    case Qt::Key_NumLock:
-        return true;
-    default:
-        return press.modifiers() & (Qt::AltModifier | Qt::MetaModifier);
-    }
-}
-
 /// A key that puts characters into the field or takes one away, as opposed to one that moves or
 /// commands.
 bool StandsForCharacters(const QKeyEvent& press) {
     const bool isCommand = press.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
     return !isCommand && !press.text().isEmpty() &&
            (press.text()[0].isPrint() || press.text()[0] == QChar(backspaceKey));
+}
+
+/// A key that types, erases or moves about in the field, as opposed to one that leads away,
+/// commands or stands for nothing alone.
+bool WorksInField(const QKeyEvent& press) {
+    if (press.matches(QKeySequence::Paste) || press.matches(QKeySequence::Cut))
+        return true;
+    if (press.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+        return false;
+    switch (press.key()) {
+    case Qt::Key_Delete:
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        return true;
+    default:
+        return StandsForCharacters(press);
+    }
 }
 
 /// Something to enter, or the main button.
@@ -112,6 +116,14 @@ void EntryField::RunThroughRule(const QString& text) {
     }
 }
 
+void EntryField::Paste(const QString& text) {
+    Q_EMIT KeyDown();
+    if (rule)
+        RunThroughRule(text);
+    else
+        insert(text);
+}
+
 void EntryField::TypeThroughRule(QKeyEvent* event) {
     if (event->matches(QKeySequence::Paste))
         RunThroughRule(QApplication::clipboard()->text());
@@ -124,7 +136,7 @@ void EntryField::TypeThroughRule(QKeyEvent* event) {
 }
 
 void EntryField::keyPressEvent(QKeyEvent* event) {
-    if (!LeadsAway(*event))
+    if (WorksInField(*event))
         Q_EMIT KeyDown();
     static const QMetaMethod entered = QMetaMethod::fromSignal(&QLineEdit::returnPressed);
     if (IsEnter(*event) && !isSignalConnected(entered))
@@ -149,8 +161,8 @@ void EntryField::inputMethodEvent(QInputMethodEvent* event) {
 }
 
 void EntryField::mouseReleaseEvent(QMouseEvent* event) {
-    if (rule && !isReadOnly() && event->button() == Qt::MiddleButton)
-        RunThroughRule(QApplication::clipboard()->text(QClipboard::Selection));
+    if (!isReadOnly() && event->button() == Qt::MiddleButton)
+        Paste(QApplication::clipboard()->text(QClipboard::Selection));
     else
         QLineEdit::mouseReleaseEvent(event);
 }
@@ -160,11 +172,11 @@ void EntryField::contextMenuEvent(QContextMenuEvent* event) {
     // The toolkit gives its entries no names; the one for pasting shows the key that pastes.
     const QString pasteKey = QKeySequence(QKeySequence::Paste).toString(QKeySequence::NativeText);
     for (QAction* entry : menu->actions()) {
-        if (!rule || !entry->text().endsWith(pasteKey))
+        if (!entry->text().endsWith(pasteKey))
             continue;
         entry->disconnect();
         connect(entry, &QAction::triggered, this,
-                [this] { RunThroughRule(QApplication::clipboard()->text()); });
+                [this] { Paste(QApplication::clipboard()->text()); });
     }
     menu->exec(event->globalPos());
 }

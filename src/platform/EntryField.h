@@ -24,8 +24,8 @@ public:
     void Show(const QString& text);
 
 Q_SIGNALS:
-    /// A key has gone down and not taken effect yet. Not for keys that only lead away or stand for
-    /// nothing alone: Tab, Shift and their like.
+    /// A key has gone down, or a text is pasted, and has not taken effect yet. Not for keys that
+    /// lead away, command or stand for nothing alone: Tab, Enter, Escape, Shift, Ctrl+C.
     void KeyDown();
     void GotFocus();
     /// The operator has moved on to another control of the screen. It does not come for another
@@ -42,6 +42,7 @@ protected:
 
 private:
     void RunThroughRule(const QString& text);
+    void Paste(const QString& text);
     void TypeThroughRule(QKeyEvent* event);
     void LimitAgain(const QString& text);
 

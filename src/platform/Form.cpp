@@ -38,6 +38,10 @@ void Form::AddRow(const QString& caption, QWidget* field, QWidget* named) {
     label->setBuddy(named);
 }
 
+void Form::AddText(const QString& text) {
+    addWidget(new QLabel(text), rowCount(), 0, Qt::AlignRight | Qt::AlignVCenter);
+}
+
 void Form::SetLabelWidth(double heights) {
     setColumnMinimumWidth(0, Em(heights));
 }

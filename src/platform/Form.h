@@ -17,6 +17,8 @@ public:
     void AddRow(const QString& caption, QWidget* field);
     /// For a field of several controls, of which one is what the label names.
     void AddRow(const QString& caption, QWidget* field, QWidget* named);
+    /// A line that stands with the labels and has no field.
+    void AddText(const QString& text);
     /// Gives forms that stand one over the other one edge, in heights of the font.
     void SetLabelWidth(double heights);
 };

@@ -90,7 +90,7 @@ QWidget* SetupOptionsTab::MakePhoneTab() {
     connect(ckCallerID, &QCheckBox::clicked, this,
             [this](bool isTicked) { settings.CallerIdOn = isTicked; });
     modem->Rows()->addWidget(ckCallerID);
-    auto* lblCallid = Named(SoftLabel(u"Caller ID is switched on"_s), u"lblCallid"_s);
+    auto* lblCallid = Named(SoftLabel(u"Caller ID was on at the start"_s), u"lblCallid"_s);
     binder.AddShow([this, lblCallid] { lblCallid->setVisible(settings.lblCallid); });
     modem->Rows()->addWidget(lblCallid);
     auto* txtModemPort = Named(new EntryField, u"txtModemPort"_s);

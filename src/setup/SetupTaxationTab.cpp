@@ -115,8 +115,8 @@ Card* SetupTaxationTab::MakeGraduatedPanel() {
     auto* form = new Form;
     form->AddRow(u"Apply Primary Tax Rate to all Sales up to  a Total of:"_s,
                  MakeAmount(0, u"Max amount of primary rate"_s));
-    form->AddRow(u"Apply Secondary Tax Rate when exceeded"_s, new QWidget);
-    form->AddRow(u"when Primary Amount is exceeded"_s, new QWidget);
+    form->AddText(u"Apply Secondary Tax Rate when exceeded"_s);
+    form->AddText(u"when Primary Amount is exceeded"_s);
     form->AddRow(u"Apply a Surcharge of:"_s,
                  MakeAmount(1, u"Flat surcharge when 1st total is exceeded"_s));
     auto* buttons = new QHBoxLayout;

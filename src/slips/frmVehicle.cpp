@@ -228,7 +228,7 @@ void frmVehicle::ShowFleet() {
 void frmVehicle::ShowWhere() {
     const int row = fleet.fgItems.CurrentRow();
     if (!fleet.FieldsAreEnabled)
-        SetWhere(u"Vehicles: %1"_s.arg(fleet.fgItems.DataRows()));
+        SetWhere(u"Vehicles: %1"_s.arg(fleet.IsEmpty() ? 0 : fleet.fgItems.DataRows()));
     else if (fleet.IsAdding || row == 0)
         SetWhere(u"New vehicle"_s);
     else
