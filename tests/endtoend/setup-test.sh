@@ -135,6 +135,8 @@ ExpectFiles() {
 # By the picture of the welcome panel, which the keys reach behind the one of the title.
 OpenSetupFromWelcomePanel() {
     WaitForTitle
+    # Told at every start until there is a customer.
+    AnswerNext 'Create Customers' Return
     # Until the bar has run through.
     sleep 1.5
     Press "$titleWindow" Return
