@@ -137,7 +137,9 @@ QPushButton* frmCustomer::MakeButton(const QString& name, const QString& caption
     connect(button, &QPushButton::clicked, this, [this, button, action] {
         // A button that is pressed by its letter leaves the field before it, as a click does.
         button->setFocus(Qt::ShortcutFocusReason);
-        action();
+        // Unless leaving the field has called the operator elsewhere.
+        if (focusWidget() == button)
+            action();
     });
     return button;
 }
@@ -205,12 +207,12 @@ QWidget* frmCustomer::MakeTypeRow() {
     auto* block = new QWidget;
     Form* form = MakeForm();
     block->setLayout(form);
-    lblLType = Named(new QLabel, u"lblLType"_s);
-    lblLType->setProperty("strong", true);
+    lbLType = Named(new QLabel, u"lbLType"_s);
+    lbLType->setProperty("strong", true);
     cmdAcctType = MakeButton(u"cmdAcctType"_s, u"Toggle Account Type"_s,
                              [this] { Run([this] { customers.ToggleAccountType(); }); });
-    lblLType->setMinimumWidth(Em(labelWidth));
-    form->AddRow(u"Type"_s, InOneLine({lblLType, cmdAcctType}), cmdAcctType);
+    lbLType->setMinimumWidth(Em(labelWidth));
+    form->AddRow(u"Type"_s, InOneLine({lbLType, cmdAcctType}), cmdAcctType);
     return block;
 }
 
@@ -429,12 +431,12 @@ void frmCustomer::ShowFields() {
         if (text->text() != customers.Fields[place])
             text->Show(customers.Fields[place]);
     }
-    cboTitle->setEditText(customers.Fields.cboTitle);
-    cboCity->setEditText(customers.Fields.cboCity);
-    cboStates->setEditText(customers.Fields.cboStates);
+    cboTitle->Show(customers.Fields.cboTitle);
+    cboCity->Show(customers.Fields.cboCity);
+    cboStates->Show(customers.Fields.cboStates);
     txtAdd3->setText(customers.Fields.txtAdd3);
     txtAdd4->setText(customers.Fields.txtAdd4);
-    lblLType->setText(customers.lblLType);
+    lbLType->setText(customers.lbLType);
     fraUSAddress->setVisible(customers.UsaAddressStyle);
     fraIntAddress->setVisible(!customers.UsaAddressStyle);
     ShowName();
@@ -509,9 +511,15 @@ void frmCustomer::LeaveWithoutCustomer() {
 }
 
 bool frmCustomer::eventFilter(QObject* watched, QEvent* event) {
+    // A turn of the wheel would choose an account as well.
+    if (watched == cboAccounts && event->type() == QEvent::Wheel) {
+        event->ignore();
+        return true;
+    }
     if (watched == cboAccounts && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Down || key == Qt::Key_Up) {
+        if (key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_PageDown ||
+            key == Qt::Key_PageUp) {
             // In the closed list these keys would choose an account each.
             cboAccounts->showPopup();
             return true;
@@ -525,8 +533,11 @@ bool frmCustomer::eventFilter(QObject* watched, QEvent* event) {
 
 void frmCustomer::txtCustomer_GotFocus(CustomerText place) {
     // Behind the area code and exchange only the last four digits are to be typed.
-    if (place == CustomerText::Phone && Text(place)->text().size() == proposedPhone)
-        Text(place)->end(false);
+    if (place != CustomerText::Phone || Text(place)->text().size() != proposedPhone)
+        return;
+    Text(place)->end(false);
+    // A click that brings the focus places the caret once more, behind this.
+    QTimer::singleShot(0, Text(place), [this, place] { Text(place)->end(false); });
 }
 
 void frmCustomer::txtCustomer_LostFocus(CustomerText place) {
@@ -573,9 +584,13 @@ void frmCustomer::cmdCustomer_Click(Button index) {
         return;
     constexpr qint16 maintenance = 2;
     constexpr qint16 newDelivery = 5;
-    if (office.MenuChoice == newDelivery && index == Select)
+    if (office.MenuChoice == newDelivery && index == Select) {
         screens.GoFrom(ScreenName::frmCustomer, ScreenName::frmDelivery);
-    else if (office.MenuChoice == maintenance || office.MenuChoice == newDelivery)
+        // Without a screen for it the customer stays; a second save of a record that was not shown
+        // anew would put the defaults over its contract.
+        if (isVisible())
+            Run([this] { customers.ShowCustomer(); });
+    } else if (office.MenuChoice == maintenance || office.MenuChoice == newDelivery)
         screens.GoFrom(ScreenName::frmCustomer, ScreenName::frmStartup);
     else
         screens.Hide(ScreenName::frmCustomer);

@@ -98,7 +98,7 @@ private:
     EntryBox* cboTitle = nullptr;
     EntryBox* cboCity = nullptr;
     EntryBox* cboStates = nullptr;
-    QLabel* lblLType = nullptr;
+    QLabel* lbLType = nullptr;
     QPushButton* cmdAcctType = nullptr;
     QPushButton* cmdNew = nullptr;
     QWidget* fraUSAddress = nullptr;

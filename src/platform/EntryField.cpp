@@ -30,10 +30,23 @@ bool StandsForCharacters(const QKeyEvent& press) {
            (press.text()[0].isPrint() || press.text()[0] == QChar(backspaceKey));
 }
 
+/// A copied text often ends in a line break, which no field of a record can hold.
+QString AsOneLine(const QString& text) {
+    const auto isControl = [](QChar character) {
+        return character.category() == QChar::Other_Control;
+    };
+    qsizetype length = text.size();
+    while (length > 0 && isControl(text[length - 1]))
+        --length;
+    QString line = text.left(length);
+    std::replace_if(line.begin(), line.end(), isControl, QChar(u' '));
+    return line;
+}
+
 /// A key that types, erases or moves about in the field, as opposed to one that leads away,
 /// commands or stands for nothing alone.
 bool WorksInField(const QKeyEvent& press) {
-    if (press.matches(QKeySequence::Paste) || press.matches(QKeySequence::Cut))
+    if (press.matches(QKeySequence::Cut))
         return true;
     if (press.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
         return false;
@@ -118,16 +131,15 @@ void EntryField::RunThroughRule(const QString& text) {
 
 void EntryField::Paste(const QString& text) {
     Q_EMIT KeyDown();
+    const QString line = AsOneLine(text);
     if (rule)
-        RunThroughRule(text);
+        RunThroughRule(line);
     else
-        insert(text);
+        insert(line);
 }
 
 void EntryField::TypeThroughRule(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Paste))
-        RunThroughRule(QApplication::clipboard()->text());
-    else if (!StandsForCharacters(*event))
+    if (!StandsForCharacters(*event))
         QLineEdit::keyPressEvent(event);
     else if (event->text()[0] != QChar(backspaceKey))
         RunThroughRule(event->text());
@@ -136,6 +148,10 @@ void EntryField::TypeThroughRule(QKeyEvent* event) {
 }
 
 void EntryField::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Paste) && !isReadOnly()) {
+        Paste(QApplication::clipboard()->text());
+        return;
+    }
     if (WorksInField(*event))
         Q_EMIT KeyDown();
     static const QMetaMethod entered = QMetaMethod::fromSignal(&QLineEdit::returnPressed);

@@ -153,7 +153,7 @@ TEST_F(CustomerScreen, OpensOnTheFirstCustomerWithTheFocusInTheNumber) {
     EXPECT_EQ(Shown(1), u"Corner Grocery"_s);
     EXPECT_EQ(Combo(u"cboCity"_s)->currentText(), u"Springfield"_s);
     EXPECT_EQ(Combo(u"cboStates"_s)->currentText(), u"IL"_s);
-    EXPECT_EQ(Find<QLabel>(screen, u"lblLType"_s)->text(), u"Business"_s);
+    EXPECT_EQ(Find<QLabel>(screen, u"lbLType"_s)->text(), u"Business"_s);
     EXPECT_EQ(Focused(), u"txtCustomer(0)"_s);
     EXPECT_EQ(Where(), u"Corner Grocery  \u00b7  Customer 1 of 3"_s);
     EXPECT_TRUE(Text(1)->isVisible());
@@ -166,7 +166,7 @@ TEST_F(CustomerScreen, OpensOnTheFirstCustomerWithTheFocusInTheNumber) {
 TEST_F(CustomerScreen, EmptyFileOpensForThePersonOfTheFirstRecord) {
     OpenEmpty();
     user.ExpectNothingLeft();
-    EXPECT_EQ(Find<QLabel>(screen, u"lblLType"_s)->text(), u"Individual"_s);
+    EXPECT_EQ(Find<QLabel>(screen, u"lbLType"_s)->text(), u"Individual"_s);
     EXPECT_TRUE(Text(8)->isVisible());
     EXPECT_FALSE(Text(1)->isVisible());
     for (int index = 0; index <= 6; ++index)
@@ -271,6 +271,44 @@ TEST_F(CustomerScreen, CaretGoesBehindAProposedAreaCodeAndExchange) {
     EXPECT_EQ(Shown(6), u"309-555-0100"_s);
 }
 
+TEST_F(CustomerScreen, CaretGoesBehindAProposedAreaCodeAfterAClickToo) {
+    OpenThree();
+    Text(6)->setText(u"309-555-"_s);
+    QTest::mouseClick(Text(6), Qt::LeftButton, Qt::NoModifier, QPoint(6, 6));
+    QTest::qWait(1);
+    EXPECT_EQ(Text(6)->cursorPosition(), 8);
+    Text(3)->setFocus();
+    Text(6)->setText(u"309-5556"_s + u"7"_s);
+    QTest::mouseClick(Text(6), Qt::LeftButton, Qt::NoModifier, QPoint(6, 6));
+    QTest::qWait(1);
+    EXPECT_LT(Text(6)->cursorPosition(), 9) << "not exactly eight characters";
+}
+
+TEST_F(CustomerScreen, WheelAndPageKeysChooseNoAccount) {
+    OpenThree();
+    Click(screen, u"Command1(1)"_s);
+    QComboBox* accounts = Combo(u"cboAccounts"_s);
+    accounts->setFocus();
+    const QString before = Shown(0);
+    const QPointF place(5, 5);
+    QWheelEvent wheel(place, accounts->mapToGlobal(place), {}, QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(accounts, &wheel);
+    EXPECT_EQ(Shown(0), before);
+    Press(accounts, Qt::Key_PageDown);
+    EXPECT_EQ(Shown(0), before);
+}
+
+TEST_F(CustomerScreen, FailedValidationBringsTheNameBackBeforeTheList) {
+    OpenThree();
+    Text(1)->clear();
+    Click(screen, u"Command1(1)"_s);
+    user.ExpectMessage(u"The Account Name Cannot be Blank"_s);
+    Click(screen, u"cmdNav(2)"_s);
+    EXPECT_TRUE(Text(1)->isVisible());
+    EXPECT_EQ(screens.Find(screen)->focusWidget(), Text(1));
+}
+
 TEST_F(CustomerScreen, NumberIsCheckedWhenTheOperatorLeavesItsField) {
     OpenThree();
     Enter(0, u"77"_s);
@@ -336,7 +374,7 @@ TEST_F(CustomerScreen, MovingAwayFromABusinessWithoutANameStays) {
 TEST_F(CustomerScreen, ToggleOfTheTypeShowsTheOtherNameFields) {
     OpenThree();
     Click(screen, u"cmdAcctType"_s);
-    EXPECT_EQ(Find<QLabel>(screen, u"lblLType"_s)->text(), u"Individual"_s);
+    EXPECT_EQ(Find<QLabel>(screen, u"lbLType"_s)->text(), u"Individual"_s);
     EXPECT_TRUE(Text(8)->isVisible());
     EXPECT_FALSE(Text(1)->isVisible());
     EXPECT_EQ(Shown(1), u"Corner Grocery"_s);

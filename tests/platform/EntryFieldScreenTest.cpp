@@ -358,3 +358,21 @@ TEST_F(EnterTest, EnterStaysWhereItActs) {
     EXPECT_EQ(entered.count(), 1);
     EXPECT_TRUE(first.hasFocus());
 }
+
+TEST_F(EntryFieldRuleTest, LineBreaksAndTabsOfAPastedTextStayOut) {
+    QApplication::clipboard()->setText(u"a\tb\r\n"_s);
+    QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(field.text(), u"A B"_s);
+    EntryField plain;
+    QTest::keyClick(&plain, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(plain.text(), u"a b"_s);
+}
+
+TEST(EntryFieldPasteTest, PastedTextReplacesWhatAKeyDownEmpties) {
+    EntryField box;
+    box.setText(u"$0.00"_s);
+    QObject::connect(&box, &EntryField::KeyDown, &box, &QLineEdit::clear);
+    QApplication::clipboard()->setText(u"12.5"_s);
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.text(), u"12.5"_s);
+}
