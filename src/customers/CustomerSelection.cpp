@@ -2,6 +2,7 @@
 
 #include "customers/CustomerNames.h"
 #include "platform/RuntimeFailure.h"
+#include "setup/AddressStyle.h"
 #include "store/TextLines.h"
 
 #include <algorithm>
@@ -37,7 +38,7 @@ const QStringList& CustomerSelection::Titles() {
 }
 
 bool CustomerSelection::IsBusiness() const {
-    return lblLType == BusinessType();
+    return lbLType == BusinessType();
 }
 
 void CustomerSelection::Load() {
@@ -49,7 +50,7 @@ void CustomerSelection::Load() {
     CurrentRecord = 1;
     LoadStates();
     Fields = {};
-    lblLType = BusinessType();
+    lbLType = BusinessType();
     ShowRecordArea();
     TakeAddressStyle();
     if (files.AreThere()) {
@@ -75,11 +76,11 @@ void CustomerSelection::LoadStates() {
     disk.CloseAllFiles();
 }
 
-/// The proposals stand on the screen as long as the message does; the first customer is entered
-/// into empty fields.
+/// The proposals are gone with the message: the first customer is entered into empty fields.
 void CustomerSelection::LoadFirstCustomer() {
     IsNavigationEnabled = false;
     CustomerCount = 0;
+    acctState = 1;
     PrefillAddress();
     Fields[CustomerText::Phone] = settings.BusinessData[OwnTelephone].left(areaAndExchange) + u'-';
     user.MsgBox(u"Your Customer File is Empty\nCreate your First Customer Now"_s, Buttons::Ok,
@@ -96,7 +97,7 @@ void CustomerSelection::PrefillAddress() {
 }
 
 void CustomerSelection::TakeAddressStyle() {
-    UsaAddressStyle = settings.cmdAddress == "USA Style Address"_L1;
+    UsaAddressStyle = IsUsaStyle(settings);
 }
 
 void CustomerSelection::SetAccountType(const QString& type) {
@@ -104,11 +105,11 @@ void CustomerSelection::SetAccountType(const QString& type) {
     if (type == BusinessType()) {
         AccountDisplayName = ShownText(files.Customer.BusinessName);
         Name = NamePlace::BusinessName;
-        lblLType = BusinessType();
+        lbLType = BusinessType();
     } else {
         AccountDisplayName = FullPersonalName(files.Customer);
         Name = NamePlace::PersonalName;
-        lblLType = IndividualType();
+        lbLType = IndividualType();
     }
     fraAux = u"Data for "_s + AccountDisplayName;
 }
@@ -118,7 +119,7 @@ void CustomerSelection::ToggleAccountType() {
 }
 
 void CustomerSelection::ShowRecordArea() {
-    SetAccountType(lblLType);
+    SetAccountType(lbLType);
 }
 
 void CustomerSelection::ShowCustomer() {
@@ -164,12 +165,14 @@ bool CustomerSelection::HasName() {
         if (!Fields[CustomerText::BusinessName].isEmpty())
             return true;
         user.MsgBox(u"The Account Name Cannot be Blank"_s);
+        Name = NamePlace::BusinessName;
         Focus = FocusOn::BusinessName;
         return false;
     }
     if (!Fields[CustomerText::FirstName].isEmpty() && !Fields[CustomerText::LastName].isEmpty())
         return true;
     user.MsgBox(u"Enter Account Data or\n Click Cancel AddNew if Visible"_s);
+    Name = NamePlace::PersonalName;
     Focus = FocusOn::FirstName;
     return false;
 }
@@ -241,7 +244,7 @@ void CustomerSelection::FillRecord() {
     customer.FirstName = trimmed(CustomerText::FirstName);
     customer.MiddleInitial = QString();
     customer.LastName = trimmed(CustomerText::LastName);
-    customer.AcctType = lblLType;
+    customer.AcctType = lbLType;
     customer.AcctState = acctState;
 }
 
@@ -282,7 +285,9 @@ void CustomerSelection::AddNewCustomer() {
 void CustomerSelection::BeginNewCustomer() {
     if (!SaveAndGoOn())
         return;
-    ++CustomerCount;
+    // Behind the records of the file as well: one that a cancel has put out of reach must not be
+    // written over.
+    CustomerCount = std::max(CustomerCount, qint32(files.Count())) + 1;
     CurrentRecord = CustomerCount;
     files.BlankCustomer();
     acctState = 1;

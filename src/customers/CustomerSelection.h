@@ -64,7 +64,7 @@ public:
 
     CustomerFields Fields;
     /// Captions.
-    QString lblLType;
+    QString lbLType;
     QString fraAux;
     /// The account of the screen, for captions.
     QString AccountDisplayName;

@@ -1,16 +1,16 @@
 #include "customers/frmCustomer.h"
 
-#include "platform/KeyFilter.h"
-#include "platform/TextBox.h"
+#include "platform/EntryBox.h"
+#include "platform/EntryField.h"
+#include "platform/Form.h"
 #include "platform/Theme.h"
 #include "startup/Office.h"
 #include "startup/Screens.h"
 #include "store/VerifyDataRoutines.h"
 
 #include <QApplication>
-#include <QComboBox>
+#include <QCompleter>
 #include <QFocusEvent>
-#include <QGridLayout>
 #include <QLabel>
 #include <QListView>
 #include <QMenuBar>
@@ -28,7 +28,6 @@ namespace {
 
 constexpr int bodySide = 20;
 constexpr int bodyTop = 14;
-constexpr int rowGap = 8;
 constexpr double labelWidth = 5.5;
 constexpr double numberWidth = 13;
 constexpr double addressWidth = 21;
@@ -48,49 +47,11 @@ constexpr qsizetype proposedPhone = 8;
 
 const QString laterVersion = u"Not part of this version yet"_s;
 
-QLabel* FormLabel(const QString& text, QWidget* field) {
-    auto* label = new QLabel(text);
-    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    label->setMinimumWidth(Em(labelWidth));
-    label->setBuddy(field);
-    return label;
-}
-
-/// The rows of a form. Forms that stand one over the other have their labels in one line.
-QGridLayout* MakeForm(QWidget* parent = nullptr) {
-    auto* form = new QGridLayout(parent);
-    form->setContentsMargins({});
-    form->setHorizontalSpacing(rowGap);
-    form->setVerticalSpacing(rowGap);
-    form->setColumnStretch(1, 1);
+/// The forms of the card stand one over the other.
+Form* MakeForm() {
+    auto* form = new Form;
+    form->SetLabelWidth(labelWidth);
     return form;
-}
-
-void AddRow(QGridLayout* form, const QString& label, QWidget* field, QWidget* buddy) {
-    const int row = form->count() / 2;
-    form->addWidget(FormLabel(label, buddy), row, 0);
-    form->addWidget(field, row, 1, Qt::AlignLeft | Qt::AlignVCenter);
-}
-
-void AddRow(QGridLayout* form, const QString& label, QWidget* field) {
-    AddRow(form, label, field, field);
-}
-
-QWidget* RowOf(std::initializer_list<QWidget*> controls) {
-    auto* block = new QWidget;
-    auto* row = new QHBoxLayout(block);
-    row->setContentsMargins({});
-    row->setSpacing(rowGap);
-    for (QWidget* control : controls)
-        row->addWidget(control);
-    row->addStretch(1);
-    return block;
-}
-
-QLabel* SoftLabel(const QString& text) {
-    auto* label = new QLabel(text);
-    label->setProperty("soft", true);
-    return label;
 }
 
 void PutOff(QWidget* control) {
@@ -131,7 +92,7 @@ frmCustomer::frmCustomer(Office& theOffice, Screens& allScreens)
     columns->addLayout(side);
     MakeFoot();
     SetTabOrder();
-    SetKeyFilters();
+    SetKeyRules();
     // The button goes down only after the field has been left.
     behindLostFocus.setSingleShot(true);
     connect(&behindLostFocus, &QTimer::timeout, this, &frmCustomer::ReleaseButtons);
@@ -176,7 +137,9 @@ QPushButton* frmCustomer::MakeButton(const QString& name, const QString& caption
     connect(button, &QPushButton::clicked, this, [this, button, action] {
         // A button that is pressed by its letter leaves the field before it, as a click does.
         button->setFocus(Qt::ShortcutFocusReason);
-        action();
+        // Unless leaving the field has called the operator elsewhere.
+        if (focusWidget() == button)
+            action();
     });
     return button;
 }
@@ -195,25 +158,23 @@ void frmCustomer::MakeFoot() {
     AddMainAction(make(Select, u"&Select this Account Start Routine"_s));
 }
 
-TextBox* frmCustomer::MakeText(CustomerText place, const QString& accessibleName, double width,
-                               int limit) {
-    auto* text = Named(new TextBox(limit), Indexed(u"txtCustomer"_s, int(place)));
+EntryField* frmCustomer::MakeText(CustomerText place, const QString& accessibleName, double width,
+                                  int limit) {
+    auto* text = Named(new EntryField, Indexed(u"txtCustomer"_s, int(place)));
+    text->SetTypedLimit(limit);
     text->setAccessibleName(accessibleName);
     text->setFixedWidth(Em(width));
-    connect(text, &TextBox::GotFocus, this, [this, place] { txtCustomer_GotFocus(place); });
-    connect(text, &TextBox::LostFocus, this, [this, place] { txtCustomer_LostFocus(place); });
+    connect(text, &EntryField::GotFocus, this, [this, place] { txtCustomer_GotFocus(place); });
+    connect(text, &EntryField::Left, this, [this, place] { txtCustomer_LostFocus(place); });
     txtCustomer[place] = text;
     return text;
 }
 
-QComboBox* frmCustomer::MakeCombo(const QString& name, const QString& accessibleName) {
-    auto* combo = Named(new QComboBox, name);
-    combo->setEditable(true);
-    combo->setInsertPolicy(QComboBox::NoInsert);
+EntryBox* frmCustomer::MakeCombo(const QString& name, const QString& accessibleName) {
+    auto* combo = Named(new EntryBox, name);
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMaxVisibleItems(namesInPopup);
     combo->setAccessibleName(accessibleName);
-    combo->installEventFilter(this);
     return combo;
 }
 
@@ -221,43 +182,43 @@ QWidget* frmCustomer::MakeAccountCard() {
     auto* card = new Card(u"Account Data"_s);
     card->Rows()->addWidget(MakeTypeRow());
 
-    auto* form = MakeForm();
-    AddRow(form, u"Account No"_s, MakeText(CustomerText::AcctNo, u"Account No"_s, numberWidth, 20));
+    Form* form = MakeForm();
+    form->AddRow(u"Account No"_s, MakeText(CustomerText::AcctNo, u"Account No"_s, numberWidth, 20));
     QWidget* names = MakeNameRow();
-    AddRow(form, u"Name"_s, names, Text(CustomerText::BusinessName));
-    AddRow(form, u"Address 1"_s,
-           MakeText(CustomerText::Address1, u"Address 1"_s, addressWidth, 35));
-    AddRow(form, u"Address 2"_s,
-           MakeText(CustomerText::Address2, u"Address 2"_s, addressWidth, 25));
+    form->AddRow(u"Name"_s, names, Text(CustomerText::BusinessName));
+    form->AddRow(u"Address 1"_s,
+                 MakeText(CustomerText::Address1, u"Address 1"_s, addressWidth, 35));
+    form->AddRow(u"Address 2"_s,
+                 MakeText(CustomerText::Address2, u"Address 2"_s, addressWidth, 25));
     card->Rows()->addLayout(form);
     card->Rows()->addWidget(MakeUsAddress());
     card->Rows()->addWidget(MakeInternationalAddress());
 
-    auto* reached = MakeForm();
+    Form* reached = MakeForm();
     QWidget* phone = MakePhoneRow();
-    AddRow(reached, u"Telephone"_s, phone, Text(CustomerText::Phone));
-    AddRow(reached, u"Cell"_s, MakeText(CustomerText::Cell, u"Cell"_s, phoneWidth, 12));
-    AddRow(reached, u"E-mail"_s, MakeText(CustomerText::Email, u"E-mail"_s, addressWidth, 30));
+    reached->AddRow(u"Telephone"_s, phone, Text(CustomerText::Phone));
+    reached->AddRow(u"Cell"_s, MakeText(CustomerText::Cell, u"Cell"_s, phoneWidth, 12));
+    reached->AddRow(u"E-mail"_s, MakeText(CustomerText::Email, u"E-mail"_s, addressWidth, 30));
     card->Rows()->addLayout(reached);
     return card;
 }
 
 QWidget* frmCustomer::MakeTypeRow() {
     auto* block = new QWidget;
-    auto* form = MakeForm(block);
-    lblLType = Named(new QLabel, u"lblLType"_s);
-    lblLType->setProperty("strong", true);
+    Form* form = MakeForm();
+    block->setLayout(form);
+    lbLType = Named(new QLabel, u"lbLType"_s);
+    lbLType->setProperty("strong", true);
     cmdAcctType = MakeButton(u"cmdAcctType"_s, u"Toggle Account Type"_s,
                              [this] { Run([this] { customers.ToggleAccountType(); }); });
-    lblLType->setMinimumWidth(Em(labelWidth));
-    AddRow(form, u"Type"_s, RowOf({lblLType, cmdAcctType}), cmdAcctType);
+    lbLType->setMinimumWidth(Em(labelWidth));
+    form->AddRow(u"Type"_s, InOneLine({lbLType, cmdAcctType}), cmdAcctType);
     return block;
 }
 
 QWidget* frmCustomer::MakeNameRow() {
     cboTitle = MakeCombo(u"cboTitle"_s, u"Title"_s);
     cboTitle->addItems(CustomerSelection::Titles());
-    cboTitle->setCompleter(nullptr);
     cboTitle->setFixedWidth(Em(titleWidth));
     cboTitle->lineEdit()->setPlaceholderText(u"Title"_s);
     auto* first = MakeText(CustomerText::FirstName, u"First name"_s, firstNameWidth, 15);
@@ -269,12 +230,18 @@ QWidget* frmCustomer::MakeNameRow() {
     auto* business =
         MakeText(CustomerText::BusinessName, u"Name of the business"_s, addressWidth, 30);
     MakeAccountList();
-    return RowOf({business, cboTitle, first, middle, last, cboAccounts});
+    return InOneLine({business, cboTitle, first, middle, last, cboAccounts});
 }
 
 void frmCustomer::MakeAccountList() {
     cboAccounts = MakeCombo(u"cboAccounts"_s, u"Customer by name"_s);
     cboAccounts->setModel(&customers.cboAccounts);
+    // This one is for finding a name, not for entering one.
+    auto* completer = new QCompleter(&customers.cboAccounts, cboAccounts);
+    completer->setCompletionMode(QCompleter::InlineCompletion);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    cboAccounts->setCompleter(completer);
+    cboAccounts->installEventFilter(this);
     cboAccounts->setFixedWidth(Em(addressWidth));
     cboAccounts->lineEdit()->setPlaceholderText(u"Type the first letters of a name"_s);
     static_cast<QListView*>(cboAccounts->view())->setUniformItemSizes(true);
@@ -287,34 +254,35 @@ QWidget* frmCustomer::MakeUsAddress() {
     fraUSAddress = Named(new QWidget, u"fraUSAddress"_s);
     cboCity = MakeCombo(u"cboCity"_s, u"City"_s);
     cboCity->setModel(&customers.cboCity);
-    // What is typed is the city, also when a longer one begins with it.
-    cboCity->setCompleter(nullptr);
     cboCity->setFixedWidth(Em(cityWidth));
     cboStates = MakeCombo(u"cboStates"_s, u"State"_s);
-    cboStates->setCompleter(nullptr);
     cboStates->setFixedWidth(Em(stateWidth));
     auto* postal = MakeText(CustomerText::PostalCode, u"Zip Code"_s, postalWidth, 10);
-    auto* form = MakeForm(fraUSAddress);
-    AddRow(form, u"City"_s, cboCity);
-    AddRow(form, u"State"_s, RowOf({cboStates, FormLabel(u"Zip Code"_s, postal), postal}),
-           cboStates);
+    Form* form = MakeForm();
+    fraUSAddress->setLayout(form);
+    form->AddRow(u"City"_s, cboCity);
+    auto* zip = new QLabel(u"Zip Code"_s);
+    zip->setBuddy(postal);
+    form->AddRow(u"State"_s, InOneLine({cboStates, zip, postal}), cboStates);
     return fraUSAddress;
 }
 
 QWidget* frmCustomer::MakeInternationalAddress() {
     fraIntAddress = Named(new QWidget, u"fraIntAddress"_s);
-    txtAdd3 = Named(new TextBox, u"txtAdd3"_s);
-    txtAdd4 = Named(new TextBox, u"txtAdd4"_s);
-    auto* form = MakeForm(fraIntAddress);
-    AddRow(form, u"Address 3"_s, txtAdd3);
-    AddRow(form, u"Address 4"_s, txtAdd4);
+    txtAdd3 = Named(new EntryField, u"txtAdd3"_s);
+    txtAdd4 = Named(new EntryField, u"txtAdd4"_s);
+    Form* form = MakeForm();
+    fraIntAddress->setLayout(form);
+    form->AddRow(u"Address 3"_s, txtAdd3);
+    form->AddRow(u"Address 4"_s, txtAdd4);
     txtAdd3->setFixedWidth(Em(addressWidth));
     txtAdd4->setFixedWidth(Em(addressWidth));
     return fraIntAddress;
 }
 
 QWidget* frmCustomer::MakePhoneRow() {
-    return RowOf({MakeText(CustomerText::Phone, u"Telephone"_s, phoneWidth, 12), MakeDialButton()});
+    return InOneLine(
+        {MakeText(CustomerText::Phone, u"Telephone"_s, phoneWidth, 12), MakeDialButton()});
 }
 
 QWidget* frmCustomer::MakeFindCard() {
@@ -422,15 +390,15 @@ void frmCustomer::SetTabOrder() {
         setTabOrder(order[i - 1], order[i]);
 }
 
-void frmCustomer::SetKeyFilters() {
+void frmCustomer::SetKeyRules() {
     // Account numbers, and the telephone numbers that stand in for them, name folders.
     for (const CustomerText place : {CustomerText::AcctNo, CustomerText::Phone}) {
-        new KeyFilter(Text(place), [this, place](ushort key) {
+        Text(place)->SetKeyRule([this, place](ushort key) {
             return FilterNoSpecial(key, Text(place)->text(), office.machine.user);
         });
     }
     auto* name = Text(CustomerText::BusinessName);
-    new KeyFilter(name, [name](ushort key) {
+    name->SetKeyRule([name](ushort key) {
         if (name->text() == "Enter Name"_L1)
             name->clear();
         return key;
@@ -463,12 +431,12 @@ void frmCustomer::ShowFields() {
         if (text->text() != customers.Fields[place])
             text->Show(customers.Fields[place]);
     }
-    cboTitle->setEditText(customers.Fields.cboTitle);
-    cboCity->setEditText(customers.Fields.cboCity);
-    cboStates->setEditText(customers.Fields.cboStates);
+    cboTitle->Show(customers.Fields.cboTitle);
+    cboCity->Show(customers.Fields.cboCity);
+    cboStates->Show(customers.Fields.cboStates);
     txtAdd3->setText(customers.Fields.txtAdd3);
     txtAdd4->setText(customers.Fields.txtAdd4);
-    lblLType->setText(customers.lblLType);
+    lbLType->setText(customers.lbLType);
     fraUSAddress->setVisible(customers.UsaAddressStyle);
     fraIntAddress->setVisible(!customers.UsaAddressStyle);
     ShowName();
@@ -543,14 +511,15 @@ void frmCustomer::LeaveWithoutCustomer() {
 }
 
 bool frmCustomer::eventFilter(QObject* watched, QEvent* event) {
-    // A record saves itself, so nothing in it may change by turning the wheel over it.
-    if (event->type() == QEvent::Wheel) {
+    // A turn of the wheel would choose an account as well.
+    if (watched == cboAccounts && event->type() == QEvent::Wheel) {
         event->ignore();
         return true;
     }
     if (watched == cboAccounts && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Down || key == Qt::Key_Up) {
+        if (key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_PageDown ||
+            key == Qt::Key_PageUp) {
             // In the closed list these keys would choose an account each.
             cboAccounts->showPopup();
             return true;
@@ -564,8 +533,11 @@ bool frmCustomer::eventFilter(QObject* watched, QEvent* event) {
 
 void frmCustomer::txtCustomer_GotFocus(CustomerText place) {
     // Behind the area code and exchange only the last four digits are to be typed.
-    if (place == CustomerText::Phone && Text(place)->text().size() == proposedPhone)
-        Text(place)->end(false);
+    if (place != CustomerText::Phone || Text(place)->text().size() != proposedPhone)
+        return;
+    Text(place)->end(false);
+    // A click that brings the focus places the caret once more, behind this.
+    QTimer::singleShot(0, Text(place), [this, place] { Text(place)->end(false); });
 }
 
 void frmCustomer::txtCustomer_LostFocus(CustomerText place) {
@@ -612,9 +584,13 @@ void frmCustomer::cmdCustomer_Click(Button index) {
         return;
     constexpr qint16 maintenance = 2;
     constexpr qint16 newDelivery = 5;
-    if (office.MenuChoice == newDelivery && index == Select)
+    if (office.MenuChoice == newDelivery && index == Select) {
         screens.GoFrom(ScreenName::frmCustomer, ScreenName::frmDelivery);
-    else if (office.MenuChoice == maintenance || office.MenuChoice == newDelivery)
+        // Without a screen for it the customer stays; a second save of a record that was not shown
+        // anew would put the defaults over its contract.
+        if (isVisible())
+            Run([this] { customers.ShowCustomer(); });
+    } else if (office.MenuChoice == maintenance || office.MenuChoice == newDelivery)
         screens.GoFrom(ScreenName::frmCustomer, ScreenName::frmStartup);
     else
         screens.Hide(ScreenName::frmCustomer);

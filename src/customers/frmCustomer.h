@@ -9,11 +9,11 @@
 #include <map>
 
 class Office;
-class QComboBox;
 class QLabel;
 class QPushButton;
 class Screens;
-class TextBox;
+class EntryBox;
+class EntryField;
 
 /// The customers, one at a time: where they are kept, and where a delivery starts by selecting one.
 class frmCustomer : public Screen {
@@ -53,8 +53,9 @@ private:
     QWidget* MakeMoveCard();
     QWidget* MakeAutoAdvance();
 
-    TextBox* MakeText(CustomerText place, const QString& accessibleName, double width, int limit);
-    QComboBox* MakeCombo(const QString& name, const QString& accessibleName);
+    EntryField* MakeText(CustomerText place, const QString& accessibleName, double width,
+                         int limit);
+    EntryBox* MakeCombo(const QString& name, const QString& accessibleName);
     void MakeAccountList();
     QPushButton* MakeButton(const QString& name, const QString& caption,
                             const std::function<void()>& action);
@@ -62,7 +63,7 @@ private:
     QAction* AddItem(QMenu* menu, const QString& name, const QString& caption,
                      const std::function<void()>& action);
     void SetTabOrder();
-    void SetKeyFilters();
+    void SetKeyRules();
 
     /// Lets a rule work on what stands in the controls, and shows what it has made of it.
     void Run(const std::function<void()>& rule);
@@ -81,7 +82,7 @@ private:
     void cboAccounts_Click(int row);
     void cmdCustomer_Click(Button index);
 
-    TextBox* Text(CustomerText place) const { return txtCustomer.at(place); }
+    EntryField* Text(CustomerText place) const { return txtCustomer.at(place); }
 
     Office& office;
     Screens& screens;
@@ -90,14 +91,14 @@ private:
     bool isShowing = false;
     QTimer behindLostFocus;
 
-    std::map<CustomerText, TextBox*> txtCustomer;
-    TextBox* txtAdd3 = nullptr;
-    TextBox* txtAdd4 = nullptr;
-    QComboBox* cboAccounts = nullptr;
-    QComboBox* cboTitle = nullptr;
-    QComboBox* cboCity = nullptr;
-    QComboBox* cboStates = nullptr;
-    QLabel* lblLType = nullptr;
+    std::map<CustomerText, EntryField*> txtCustomer;
+    EntryField* txtAdd3 = nullptr;
+    EntryField* txtAdd4 = nullptr;
+    EntryBox* cboAccounts = nullptr;
+    EntryBox* cboTitle = nullptr;
+    EntryBox* cboCity = nullptr;
+    EntryBox* cboStates = nullptr;
+    QLabel* lbLType = nullptr;
     QPushButton* cmdAcctType = nullptr;
     QPushButton* cmdNew = nullptr;
     QWidget* fraUSAddress = nullptr;

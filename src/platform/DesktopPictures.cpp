@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QtEndian>
 
+#include <algorithm>
 #include <cmath>
 #include <sys/resource.h>
 
@@ -22,14 +23,24 @@ namespace {
 constexpr double twipsInDot = 15;
 /// A logo is an inch or two wide; what is larger than this is something else, or a trap.
 constexpr double mostDots = 30'000'000;
+constexpr double mostDotsInSide = 20'000;
+/// Megabytes that one picture may take while it is decoded.
+constexpr int decodingMemory = 128;
+
+/// The kinds of picture that are nothing but dots. A drawing can name other files, and can take
+/// any time to draw.
+const QByteArrayList pictureKinds = {"bmp", "ico", "cur", "jpg", "jpeg", "png", "gif"};
 
 const QString converter = u"emf2svg-conv"_s;
 constexpr int milliSecondsForConverter = 10'000;
 constexpr rlim_t converterSeconds = 10;
 constexpr rlim_t converterMemory = 512UL << 20;
-constexpr rlim_t largestDrawing = 32UL << 20;
-/// A drawing has no dots of its own; these are enough for paper.
-constexpr double drawingDots = 2000;
+/// The limits bind the converter; what it has drawn is shown by this program, and its size is what
+/// keeps that quick.
+constexpr rlim_t largestDrawing = 1UL << 20;
+constexpr int mostImagesInDrawing = 4;
+/// A drawing has no dots of its own; these are enough for a logo on paper.
+constexpr double drawingDots = 800;
 
 RuntimeFailure BadPicture(const QString& path, const QString& reason) {
     return {FailureKind::BadPicture, u"Loading the picture %1 failed: %2"_s.arg(path, reason)};
@@ -40,16 +51,18 @@ Picture PictureOf(const QImage& image, QSizeF dots) {
             dots.height() * twipsInDot};
 }
 
+constexpr int headerBytes = 44;
+
 /// The beginning of a file, as far as an enhanced metafile tells there what it is.
 QByteArray HeaderOf(const QString& path) {
-    constexpr int headerBytes = 44;
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.read(headerBytes) : QByteArray();
 }
 
 /// An enhanced metafile begins with a header record, which has a signature at its 40th byte.
 bool IsMetafile(const QByteArray& header) {
-    return header.startsWith(QByteArrayView("\x01\0\0\0", 4)) && header.endsWith(" EMF");
+    return header.size() == headerBytes && header.startsWith(QByteArrayView("\x01\0\0\0", 4)) &&
+           header.endsWith(" EMF");
 }
 
 /// The size that the header of a metafile gives it. The dots in its drawing are those of the device
@@ -68,11 +81,13 @@ QSizeF DotsInFrame(const QByteArray& header) {
 }
 
 void RefuseTooLarge(const QString& path, QSizeF dots) {
-    if (dots.width() * dots.height() > mostDots)
-        throw BadPicture(path, u"It has %1 by %2 dots, and a logo can have at most %3 in all."_s
-                                   .arg(std::lround(dots.width()))
+    const double longest = std::max(dots.width(), dots.height());
+    if (dots.width() * dots.height() > mostDots || longest > mostDotsInSide)
+        throw BadPicture(path, u"It has %1 by %2 dots, and a logo can have at most %3 in all and "
+                               u"%4 on a side."_s.arg(std::lround(dots.width()))
                                    .arg(std::lround(dots.height()))
-                                   .arg(std::lround(mostDots)));
+                                   .arg(std::lround(mostDots))
+                                   .arg(std::lround(mostDotsInSide)));
 }
 
 void Limit(int resource, rlim_t most) {
@@ -83,6 +98,8 @@ void Limit(int resource, rlim_t most) {
 /// Turns the metafile into a drawing that the toolkit can show.
 QByteArray ConvertedMetafile(const QString& path) {
     const QTemporaryDir folder;
+    if (!folder.isValid())
+        throw BadPicture(path, u"There is no room to convert it: "_s + folder.errorString());
     const QString drawing = folder.filePath(u"logo.svg"_s);
     QProcess process;
     process.setChildProcessModifier([] {
@@ -110,12 +127,28 @@ QByteArray ConvertedMetafile(const QString& path) {
     return file.readAll();
 }
 
+/// The converter passes on what stands in a metafile's texts, so a drawing can hold anything: it
+/// may name no file, and no part of itself again and again.
+bool IsHarmless(const QByteArray& drawing) {
+    const QByteArray words = drawing.toLower();
+    qsizetype place = 0;
+    while ((place = words.indexOf("href", place)) >= 0) {
+        place = words.indexOf('=', place) + 1;
+        while (place > 0 && place < words.size() && words[place] <= ' ')
+            ++place;
+        if (place == 0 || !words.sliced(std::min(place + 1, words.size())).startsWith("data:"))
+            return false;
+    }
+    return words.count("<image") <= mostImagesInDrawing && !words.contains("<!entity");
+}
+
 Picture LoadMetafile(const QString& path, QSizeF dots) {
     if (dots.isEmpty())
         throw BadPicture(path, u"It has no size."_s);
     RefuseTooLarge(path, dots);
-    QSvgRenderer renderer(ConvertedMetafile(path));
-    if (!renderer.isValid())
+    const QByteArray drawing = ConvertedMetafile(path);
+    QSvgRenderer renderer;
+    if (!IsHarmless(drawing) || !renderer.load(drawing))
         throw BadPicture(path, u"It is no metafile that can be converted."_s);
     QImage image(
         dots.scaled(drawingDots, drawingDots, Qt::KeepAspectRatio).toSize().expandedTo(QSize(1, 1)),
@@ -142,9 +175,15 @@ Picture DesktopPictures::Load(const QString& path) const {
     QImageReader reader(path);
     // The name says nothing about what is in a file.
     reader.setDecideFormatFromContent(true);
+    if (reader.canRead() && !pictureKinds.contains(reader.format()))
+        throw BadPicture(
+            path, u"A logo can't be of the kind %1."_s.arg(QString::fromLatin1(reader.format())));
     RefuseTooLarge(path, reader.size());
+    QImageReader::setAllocationLimit(decodingMemory);
     const QImage image = reader.read();
     if (image.isNull())
         throw BadPicture(path, reader.errorString() + u'.');
+    // An icon's own word for its size may be wrong.
+    RefuseTooLarge(path, image.size());
     return PictureOf(image, image.size());
 }

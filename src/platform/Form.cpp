@@ -32,6 +32,20 @@ void Form::AddRow(const QString& caption, QWidget* field) {
     AddRow(new QLabel(caption), field);
 }
 
+void Form::AddRow(const QString& caption, QWidget* field, QWidget* named) {
+    auto* label = new QLabel(caption);
+    AddRow(label, field);
+    label->setBuddy(named);
+}
+
+void Form::AddText(const QString& text) {
+    addWidget(new QLabel(text), rowCount(), 0, Qt::AlignRight | Qt::AlignVCenter);
+}
+
+void Form::SetLabelWidth(double heights) {
+    setColumnMinimumWidth(0, Em(heights));
+}
+
 QLabel* SoftLabel(const QString& text) {
     auto* label = new QLabel(text);
     label->setProperty("soft", true);

@@ -1,11 +1,13 @@
 #include "platform/Screen.h"
 
 #include "platform/ElidedLabel.h"
+#include "platform/EntryField.h"
 #include "platform/WindowLayout.h"
 
 #include <QAbstractButton>
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -113,6 +115,16 @@ void Screen::AddAction(QWidget* control) {
 void Screen::AddMainAction(QAbstractButton* button) {
     button->setProperty("mainAction", true);
     AddAction(button);
+}
+
+/// Enter goes on from a box to tick as well, which has no use for it.
+void Screen::keyPressEvent(QKeyEvent* event) {
+    auto* box = qobject_cast<QAbstractButton*>(focusWidget());
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && box && box->isCheckable())
+        MoveOnFrom(box);
+    else
+        QMainWindow::keyPressEvent(event);
 }
 
 void Screen::closeEvent(QCloseEvent* event) {

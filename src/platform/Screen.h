@@ -44,6 +44,7 @@ protected:
     /// Adds a button last and makes it the one main button.
     void AddMainAction(QAbstractButton* button);
 
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 

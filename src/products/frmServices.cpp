@@ -1,13 +1,15 @@
 #include "products/frmServices.h"
 
+#include "platform/AmountBox.h"
+#include "platform/EntryBox.h"
 #include "platform/EntryField.h"
+#include "platform/Form.h"
 #include "platform/Grid.h"
 #include "platform/Theme.h"
 #include "startup/Office.h"
 #include "startup/Screens.h"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QCompleter>
 #include <QGridLayout>
 #include <QLabel>
@@ -54,12 +56,6 @@ QHBoxLayout* WithWords(QWidget* field, QWidget* words) {
     return row;
 }
 
-QLabel* SoftLabel(const QString& text) {
-    auto* label = new QLabel(text);
-    label->setProperty("soft", true);
-    return label;
-}
-
 QGridLayout* MakeFormLayout(QWidget* form) {
     auto* rows = new QGridLayout(form);
     rows->setContentsMargins({});
@@ -70,11 +66,6 @@ QGridLayout* MakeFormLayout(QWidget* form) {
 
 void AddLabel(QGridLayout* rows, int row, FormColumn column, QWidget* field, const QString& text) {
     rows->addWidget(LabelFor(field, text), row, column, Qt::AlignRight | Qt::AlignVCenter);
-}
-
-void ShowText(EntryField* field, const QString& text) {
-    if (field->text() != text)
-        field->setText(text);
 }
 
 /// What goes is hidden before the other comes: side by side they would widen the window.
@@ -88,22 +79,6 @@ void Exchange(std::initializer_list<QWidget*> leaving, std::initializer_list<QWi
 void SetTabOrder(const std::vector<QWidget*>& stops) {
     for (size_t i = 1; i < stops.size(); ++i)
         QWidget::setTabOrder(stops[i - 1], stops[i]);
-}
-
-/// Enter goes from field to field, past the buttons and boxes between them.
-void MoveOnWithEnter(const std::vector<QWidget*>& stops) {
-    for (size_t i = 0; i < stops.size(); ++i) {
-        auto* box = qobject_cast<QComboBox*>(stops[i]);
-        auto* field = box ? box->lineEdit() : qobject_cast<QLineEdit*>(stops[i]);
-        if (!field)
-            continue;
-        QObject::connect(field, &QLineEdit::returnPressed, field, [stops, i] {
-            const auto next = std::find_if(stops.begin() + qsizetype(i) + 1, stops.end(),
-                                           [](const QWidget* stop) { return stop->isEnabled(); });
-            if (next != stops.end())
-                (*next)->setFocus(Qt::TabFocusReason);
-        });
-    }
 }
 
 } // namespace
@@ -211,7 +186,8 @@ Grid* frmServices::MakeItemGrid() {
 
 QHBoxLayout* frmServices::MakeGridChoices() {
     ckByCategory = Named(new QCheckBox(u"Sort Items in grid by"_s), u"ckByCategory"_s);
-    lstSortBy = Named(new QComboBox, u"lstSortBy"_s);
+    lstSortBy = Named(new EntryBox, u"lstSortBy"_s);
+    lstSortBy->setEditable(false);
     lstSortBy->setAccessibleName(u"Sort Items in grid by"_s);
     lstSortBy->addItems(InventoriedItems::SortChoices());
     ckCategory =
@@ -246,7 +222,8 @@ EntryField* frmServices::MakeAmountField(const QString& name, const QString& acc
     EntryField* field = MakeField(itemFields, name, accessibleName, text);
     field->setAlignment(Qt::AlignRight);
     field->setFixedWidth(Em(amountWidth));
-    connect(field, &EntryField::Typing, this, [this, field] { Amount_Typing(field); });
+    EmptyZeroAtKeyDown(field);
+    connect(field, &EntryField::KeyDown, this, [this] { hasRefusedAmount = false; });
     connect(field, &EntryField::Left, this, [this, field] { Amount_Left(field); });
     return field;
 }
@@ -256,30 +233,29 @@ EntryField* frmServices::MakeCountField(std::vector<BoundField>& fields, const Q
     EntryField* field = MakeField(fields, name, accessibleName, text);
     field->setAlignment(Qt::AlignRight);
     field->setFixedWidth(Em(countWidth));
-    connect(field, &EntryField::Typing, this, [field] {
+    connect(field, &EntryField::KeyDown, this, [field] {
         if (TypingReplacesCount(field->text()))
             field->clear();
     });
     connect(field, &EntryField::Left, this, [field] {
         QString count = field->text();
         LeaveCount(count);
-        ShowText(field, count);
+        field->Show(count);
     });
     return field;
 }
 
-QComboBox* frmServices::MakeCategoryBox() {
-    cboCategory = Named(new QComboBox, u"cboCategory"_s);
+EntryBox* frmServices::MakeCategoryBox() {
+    cboCategory = Named(new EntryBox, u"cboCategory"_s);
     cboCategory->setAccessibleName(u"Category"_s);
-    cboCategory->setEditable(true);
-    cboCategory->setInsertPolicy(QComboBox::NoInsert);
     cboCategory->setModel(&items.Categories.List);
     // Thousands of categories need not be measured.
     cboCategory->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     cboCategory->setMinimumContentsLength(categoryCharacters);
     // Completing in the field itself would turn a new category into a listed one.
-    cboCategory->completer()->setCompletionMode(QCompleter::PopupCompletion);
-    cboCategory->completer()->setCaseSensitivity(Qt::CaseSensitive);
+    auto* completer = new QCompleter(&items.Categories.List, cboCategory);
+    completer->setCompletionMode(QCompleter::PopupCompletion);
+    cboCategory->setCompleter(completer);
     cboCategory->lineEdit()->setMaxLength(longestCategory);
     return cboCategory;
 }
@@ -290,7 +266,7 @@ QWidget* frmServices::MakeItemForm() {
     int row = 0;
     txtDescription = MakeField(itemFields, Indexed(u"txtDescription"_s, 1), u"Description"_s,
                                items.entry.txtDescription);
-    txtDescription->setMaxLength(longestDescription);
+    txtDescription->SetTypedLimit(longestDescription);
     txtDescription->setMinimumWidth(Em(descriptionWidth));
     AddLabel(rows, row, LeftLabel, txtDescription, u"Description"_s);
     rows->addWidget(txtDescription, row, LeftField);
@@ -300,6 +276,7 @@ QWidget* frmServices::MakeItemForm() {
     txtCost = MakeAmountField(u"txtCost"_s, u"Cost per Unit (what you pay)"_s, items.entry.txtCost);
     ckClearItem =
         Named(new QCheckBox(u"Retain Current Category between Items"_s), u"ckClearItem"_s);
+    ckClearItem->setProperty("enterPasses", true);
     connect(ckClearItem, &QCheckBox::clicked, this,
             [this](bool isChecked) { items.ckClearItem = isChecked; });
     AddLabel(rows, ++row, LeftLabel, txtCost, u"Cost per Unit (what you pay)"_s);
@@ -364,7 +341,7 @@ QWidget* frmServices::MakeNonItemForm() {
     int row = 0;
     txtDescriptionNon = MakeField(nonItemFields, Indexed(u"txtDescription"_s, 0), u"Description"_s,
                                   nonItems.entry.txtDescription);
-    txtDescriptionNon->setMaxLength(longestDescription);
+    txtDescriptionNon->SetTypedLimit(longestDescription);
     txtDescriptionNon->setFixedWidth(Em(wideDescriptionWidth));
     AddLabel(rows, row, LeftLabel, txtDescriptionNon, u"Description"_s);
     rows->addWidget(txtDescriptionNon, row, LeftField, Qt::AlignLeft);
@@ -424,14 +401,6 @@ void frmServices::SetKeyOrder() {
     SetTabOrder({cmdServices[ReloadOrSort], txtDescription, cboCategory, ckClearItem, txtCost,
                  sellPrice, cmdServices[ClearPrices], discountPrice, discountQty, onHand, reorder,
                  reorderAt});
-    MoveOnWithEnter({txtDescription, cboCategory, txtCost, sellPrice, discountPrice, discountQty,
-                     onHand, reorder, reorderAt, cmdServices[SaveItem]});
-    std::vector<QWidget*> nonItemStops;
-    for (const BoundField& bound : nonItemFields)
-        nonItemStops.push_back(bound.field);
-    nonItemStops.push_back(cmdServices[SaveItemNon]);
-    MoveOnWithEnter(nonItemStops);
-    MoveOnWithEnter({txtTally.begin(), txtTally.end()});
 }
 
 void frmServices::mnuInventoried_Click() {
@@ -475,7 +444,7 @@ void frmServices::ReadEntries() {
 void frmServices::ShowEntries() {
     for (const auto* fields : {&itemFields, &nonItemFields}) {
         for (const BoundField& bound : *fields)
-            ShowText(bound.field, *bound.text);
+            bound.field->Show(*bound.text);
     }
     if (cboCategory->currentText() != items.entry.cboCategory)
         cboCategory->setEditText(items.entry.cboCategory);
@@ -686,16 +655,10 @@ void frmServices::fgNonItem_KeyPress(ushort key) {
         fgNonItem_Click(nonItems.fgNonItem.CurrentRow());
 }
 
-void frmServices::Amount_Typing(EntryField* field) {
-    hasRefusedAmount = false;
-    if (TypingReplacesAmount(field->text()))
-        field->clear();
-}
-
 void frmServices::Amount_Left(EntryField* field) {
     QString amount = field->text();
     hasRefusedAmount = !LeaveAmount(amount, office.machine.user);
-    ShowText(field, amount);
+    field->Show(amount);
     if (hasRefusedAmount)
         field->setFocus();
 }

@@ -8,13 +8,13 @@
 #include <vector>
 
 class Card;
+class EntryBox;
 class EntryField;
 class Grid;
 class InventoriedItems;
 class NonInventoriedItems;
 class Office;
 class QCheckBox;
-class QComboBox;
 class QHBoxLayout;
 class QPushButton;
 class Screens;
@@ -75,7 +75,7 @@ private:
     QWidget* MakeNonItemForm();
     QWidget* MakeTallyFrame();
     void SetKeyOrder();
-    QComboBox* MakeCategoryBox();
+    EntryBox* MakeCategoryBox();
     EntryField* MakeField(std::vector<BoundField>& fields, const QString& name,
                           const QString& accessibleName, QString& text);
     EntryField* MakeAmountField(const QString& name, const QString& accessibleName, QString& text);
@@ -104,7 +104,6 @@ private:
     void fgItems_KeyPress(ushort key);
     void fgNonItem_Click(int row);
     void fgNonItem_KeyPress(ushort key);
-    void Amount_Typing(EntryField* field);
     void Amount_Left(EntryField* field);
 
     Office& office;
@@ -125,8 +124,8 @@ private:
     QWidget* footTallySheets = nullptr;
     Grid* fgItems = nullptr;
     Grid* fgNonItem = nullptr;
-    QComboBox* cboCategory = nullptr;
-    QComboBox* lstSortBy = nullptr;
+    EntryBox* cboCategory = nullptr;
+    EntryBox* lstSortBy = nullptr;
     QCheckBox* ckClearItem = nullptr;
     QCheckBox* ckCategory = nullptr;
     QCheckBox* ckByCategory = nullptr;

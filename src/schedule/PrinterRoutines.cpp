@@ -1,5 +1,7 @@
 #include "schedule/PrinterRoutines.h"
 
+#include "setup/AddressStyle.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -85,7 +87,7 @@ void PrinterRoutines::PrintHeadingAddress(float x) {
     const QString& city = settings.BusinessData[3];
     const QString& state = settings.BusinessData[4];
     const QString& zip = settings.BusinessData[5];
-    if (settings.cmdAddress == "USA Style Address"_L1) {
+    if (IsUsaStyle(settings)) {
         QString line;
         if (!city.isEmpty())
             line += city + u", "_s;

@@ -3,9 +3,9 @@
 #include "platform/ChoiceList.h"
 #include "platform/DatePicker.h"
 #include "platform/ElidedLabel.h"
+#include "platform/EntryField.h"
 #include "platform/Form.h"
 #include "platform/Grid.h"
-#include "platform/KeyFilter.h"
 #include "platform/Theme.h"
 #include "platform/UpDown.h"
 #include "startup/Office.h"
@@ -17,7 +17,6 @@
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListView>
 #include <QPushButton>
 #include <QRadioButton>
@@ -151,11 +150,10 @@ QWidget* frmPrintSchedules::MakeVehicleCard() {
 
 QWidget* frmPrintSchedules::MakeChargeCard() {
     auto* card = new Card(u"Delivery Charge"_s);
-    txtDeliveryCharge = Named(new QLineEdit, u"txtDeliveryCharge"_s);
+    txtDeliveryCharge = Named(new EntryField, u"txtDeliveryCharge"_s);
     txtDeliveryCharge->setAlignment(Qt::AlignRight);
     txtDeliveryCharge->setAccessibleName(u"Delivery Charge"_s);
-    new KeyFilter(txtDeliveryCharge,
-                  [this](ushort key) { return txtDeliveryCharge_KeyPress(key); });
+    txtDeliveryCharge->SetKeyRule([this](ushort key) { return txtDeliveryCharge_KeyPress(key); });
     auto* row = new QHBoxLayout;
     row->addWidget(
         MakeButton(EnterToGrid, u"Enter to Grid"_s, u"Enter Delivery Charge to the Grid"_s), 1);

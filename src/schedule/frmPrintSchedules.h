@@ -8,10 +8,10 @@
 
 class Card;
 class DatePicker;
+class EntryField;
 class Grid;
 class Office;
 class QCheckBox;
-class QLineEdit;
 class QListView;
 class QPushButton;
 class QRadioButton;
@@ -87,7 +87,7 @@ private:
     QLabel* lblWeekday = nullptr;
     QListView* lstVehicles = nullptr;
     QListView* lstWorkSchedule = nullptr;
-    QLineEdit* txtDeliveryCharge = nullptr;
+    EntryField* txtDeliveryCharge = nullptr;
     QCheckBox* ckPopulated = nullptr;
     QCheckBox* ckPrintWorkSchedule = nullptr;
     QCheckBox* ckMInvoices = nullptr;

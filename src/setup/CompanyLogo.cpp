@@ -1,5 +1,9 @@
 #include "setup/CompanyLogo.h"
 
+#include "platform/CodePage.h"
+
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -10,7 +14,6 @@ const QString pictureFilter =
 constexpr float smallestSize = 360;
 constexpr float largestSize = 1800;
 constexpr float sizeStep = 50;
-constexpr float defaultSize = 1440;
 
 // Of the palette of sixteen colours.
 constexpr quint32 black = 0;
@@ -35,6 +38,7 @@ bool CompanyLogo::Find() {
     if (!path)
         return false;
     dialog.FileName = *path;
+    const BusyPointer busy(user);
     settings.logo = pictures.Load(*path);
     return true;
 }
@@ -42,6 +46,11 @@ bool CompanyLogo::Find() {
 bool CompanyLogo::Store() {
     if (dialog.FileName.isEmpty())
         return false;
+    if (!IsInCodePage(dialog.FileName) || dialog.FileName.contains(u'"')) {
+        user.MsgBox(u"The name of this picture or of its folder has a character that can't be "
+                    u"stored.\nRename it or move it to your data folder, and find it again."_s);
+        return false;
+    }
     settings.logoFile = dialog.FileName;
     store.SaveCompanyLogo();
     store.SaveLogoSettings();
@@ -67,8 +76,8 @@ void CompanyLogo::MakeHeightEqualWidth() {
 }
 
 void CompanyLogo::RestoreSize() {
-    settings.logoWidth = defaultSize;
-    settings.logoHeight = defaultSize;
+    settings.logoWidth = defaultLogoSize;
+    settings.logoHeight = defaultLogoSize;
 }
 
 void CompanyLogo::WidthSmaller() {

@@ -15,7 +15,8 @@ public:
     /// Asks for a picture and shows it. False when the operator cancels, which changes nothing; a
     /// file that is no picture is a failure of kind BadPicture.
     bool Find();
-    /// Keeps the path of the picture found last, and the size. False when none has been found.
+    /// Keeps the path of the picture found last, and the size. False when none has been found, or
+    /// its path has a character that the file could not give back, which is told.
     bool Store();
     /// Asks first. The size stays, on disk as well.
     void Clear();

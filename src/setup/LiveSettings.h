@@ -6,6 +6,9 @@
 
 #include <array>
 
+/// Twips.
+constexpr float defaultLogoSize = 1440;
+
 /// The options of the business, each under the name of the setup screen's control that shows it.
 /// This is their one live copy: a reader asks for a value at the moment of need, and a change takes
 /// effect at once, even before it is saved.
@@ -84,8 +87,8 @@ struct LiveSettings {
     /// The picture of that file; none when there is no logo or its file has gone.
     Picture logo;
     /// LogoSettings.txt: the size the logo prints in, twips.
-    float logoWidth = 1440;
-    float logoHeight = 1440;
+    float logoWidth = defaultLogoSize;
+    float logoHeight = defaultLogoSize;
 
     /// The caption of the button is the setting, and it is held in no file.
     QString cmdAddress = QStringLiteral("USA Style Address");

@@ -1,21 +1,20 @@
 #include "setup/SettingsBinder.h"
 
-#include <QComboBox>
-#include <QLineEdit>
+#include "platform/EntryBox.h"
+#include "platform/EntryField.h"
 
-void SettingsBinder::Bind(QLineEdit* box, QString& value) {
+void SettingsBinder::Bind(EntryField* box, QString& value) {
     connect(box, &QLineEdit::textChanged, this, [&value](const QString& text) { value = text; });
-    AddShow([box, &value] { box->setText(value); });
+    AddShow([box, &value] { box->Show(value); });
 }
 
-void SettingsBinder::Bind(QComboBox* box, QString& value) {
+void SettingsBinder::Bind(EntryBox* box, QString& value) {
     connect(box, &QComboBox::editTextChanged, this,
             [&value](const QString& text) { value = text; });
     AddShow([box, &value] {
         // Going to the entry changes the value on the way.
         const QString text = value;
-        box->setCurrentIndex(box->findText(text));
-        box->setEditText(text);
+        box->Show(text);
     });
 }
 

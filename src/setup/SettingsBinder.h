@@ -7,8 +7,8 @@
 #include <functional>
 #include <vector>
 
-class QComboBox;
-class QLineEdit;
+class EntryBox;
+class EntryField;
 
 /// Ties controls to the live settings that they show. What the operator enters reaches the setting
 /// at once; what a rule has changed comes back to the controls by ShowAll.
@@ -18,9 +18,9 @@ class SettingsBinder : public QObject {
 public:
     using QObject::QObject;
 
-    void Bind(QLineEdit* box, QString& value);
+    void Bind(EntryField* box, QString& value);
     /// Free text as well as an entry.
-    void Bind(QComboBox* box, QString& value);
+    void Bind(EntryBox* box, QString& value);
     /// Flags are kept as truth or as 0 and 1. Any other number is no tick, and stays until the
     /// operator ticks or unticks.
     template <typename Flag>

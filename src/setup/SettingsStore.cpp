@@ -18,7 +18,6 @@ const QString workDaysFile = u"/WorkDays.txt"_s;
 const QString companyLogoFile = u"/CompanyLogo.txt"_s;
 const QString logoSettingsFile = u"/LogoSettings.txt"_s;
 
-constexpr float defaultLogoSize = 1440;
 constexpr float largestLogoSize = 2880;
 
 float LogoSize(float size) {

@@ -1,12 +1,12 @@
 #include "setup/SetupBusinessTab.h"
 
+#include "platform/EntryField.h"
 #include "platform/Form.h"
 #include "platform/Screen.h"
 #include "platform/Theme.h"
 #include "setup/AddressStyle.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -21,7 +21,6 @@ constexpr int postalCode = 5;
 
 constexpr int stateCharacters = 2;
 constexpr int addressCharacters = 55;
-constexpr int anyCharacters = 32'767;
 
 // Widths of the two fields that change with the style, in twips at the toolkit's smallest font,
 // whose height is 195 twips.
@@ -34,7 +33,7 @@ constexpr double postalWidth = 9;
 constexpr double iconSize = 1.4;
 
 /// Narrower than two capitals no state could be read.
-int StateWidth(const QLineEdit& box) {
+int StateWidth(const QWidget& box) {
     constexpr double frame = 1.5;
     return qMax(Em(stateWidth), box.fontMetrics().horizontalAdvance(u"WW"_s) + Em(frame));
 }
@@ -64,18 +63,13 @@ QWidget* SetupBusinessTab::MakeForm() {
     block->setLayout(form);
     for (int i = 0; i < int(txtBusiness.size()); ++i)
         AddBusinessRow(form, i, captions[i]);
-    // A length set while the text before still stands could cut it, and what is left of it would
-    // reach the setting.
-    binder.AddShow([this] { txtBusiness[state]->setMaxLength(anyCharacters); });
     for (size_t i = 0; i < txtBusiness.size(); ++i)
         binder.Bind(txtBusiness[i], settings.txtBusiness[i]);
-    binder.AddShow([this] { LimitState(); });
-    connect(txtBusiness[state], &QLineEdit::textChanged, this, &SetupBusinessTab::LimitState);
     return block;
 }
 
 void SetupBusinessTab::AddBusinessRow(Form* form, int index, const QString& caption) {
-    auto* box = Named(new QLineEdit, Indexed(u"txtBusiness"_s, index));
+    auto* box = Named(new EntryField, Indexed(u"txtBusiness"_s, index));
     auto* label = Named(new QLabel(caption), Indexed(u"lblAddress"_s, index));
     box->setFixedWidth(Em(addressWidth));
     txtBusiness[size_t(index)] = box;
@@ -137,23 +131,11 @@ void SetupBusinessTab::ShowStyle() {
     lblAddress[postalCode]->setVisible(isUsa);
     txtBusiness[city]->setFixedWidth(Em(isUsa ? cityWidth : addressWidth));
     txtBusiness[state]->setFixedWidth(isUsa ? StateWidth(*txtBusiness[state]) : Em(addressWidth));
+    txtBusiness[state]->SetTypedLimit(isUsa ? stateCharacters : addressCharacters);
     txtBusiness[postalCode]->setEnabled(isUsa);
     binder.ShowAll();
     if (isUsa)
         txtBusiness[postalCode]->setFocus();
-}
-
-/// A text that is longer already stays whole; it can only become shorter.
-void SetupBusinessTab::LimitState() {
-    const qsizetype limit = IsUsaStyle(settings) ? stateCharacters : addressCharacters;
-    const int length = int(qMax(limit, settings.txtBusiness[state].size()));
-    QLineEdit* box = txtBusiness[state];
-    if (box->maxLength() == length)
-        return;
-    // A new length takes the cursor to the end.
-    const int cursor = box->cursorPosition();
-    box->setMaxLength(length);
-    box->setCursorPosition(cursor);
 }
 
 void SetupBusinessTab::cmdAddress_Click() {

@@ -8,9 +8,9 @@
 
 #include <array>
 
+class EntryField;
 class Form;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class QToolButton;
 
@@ -31,7 +31,6 @@ private:
     QToolButton* MakeImage(const QString& name, const QString& icon, const QString& tip);
     QWidget* MakeButtons();
     void ShowStyle();
-    void LimitState();
 
     void cmdAddress_Click();
     void Image4_Click();
@@ -41,7 +40,7 @@ private:
     SettingsStore& store;
     Operator& user;
     SettingsBinder binder;
-    std::array<QLineEdit*, 9> txtBusiness{};
+    std::array<EntryField*, 9> txtBusiness{};
     std::array<QLabel*, 9> lblAddress{};
     QLabel* lblPostal = nullptr;
     QPushButton* cmdAddress = nullptr;

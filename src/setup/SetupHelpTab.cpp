@@ -56,8 +56,9 @@ QWidget* MakeSetupHelpTab() {
     }));
     columns->addLayout(MakeColumn({
         MakeTopic(u"What takes effect when"_s,
-                  {u"Every option counts as soon as you change it, and lasts beyond the end of the "
-                   u"program once you have saved."_s,
+                  {u"Most options count as soon as you change them. Business data, copies, phone, "
+                   u"alarm and prompts count from the moment you save."_s,
+                   u"Everything lasts beyond the end of the program once you have saved."_s,
                    u"Sound Alarm and Show Prompts are kept twice. After a change, save two times "
                    u"in the same run, or the old setting rules again after the next start."_s,
                    u"Closing the window ends the program without saving."_s}),

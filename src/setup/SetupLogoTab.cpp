@@ -9,7 +9,6 @@
 
 #include <QImage>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
 
@@ -20,7 +19,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double twipsInInch = 1440;
-constexpr double twipsInDot = 15;
 constexpr double viewWidth = 14.5;
 constexpr double viewHeight = 9.5;
 constexpr double guideWidth = 17;

@@ -1,11 +1,10 @@
 #include "setup/SetupOptionsTab.h"
 
-#include "platform/FieldWatch.h"
+#include "platform/AmountBox.h"
+#include "platform/EntryField.h"
 #include "platform/Form.h"
-#include "platform/KeyFilter.h"
 #include "platform/Screen.h"
 #include "platform/Theme.h"
-#include "setup/AmountBox.h"
 #include "setup/SetupPrintingTab.h"
 #include "setup/SetupTaxationTab.h"
 #include "store/Calendar.h"
@@ -13,7 +12,6 @@
 #include "store/VerifyDataRoutines.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
@@ -92,10 +90,10 @@ QWidget* SetupOptionsTab::MakePhoneTab() {
     connect(ckCallerID, &QCheckBox::clicked, this,
             [this](bool isTicked) { settings.CallerIdOn = isTicked; });
     modem->Rows()->addWidget(ckCallerID);
-    auto* lblCallid = Named(SoftLabel(u"Caller ID is switched on"_s), u"lblCallid"_s);
+    auto* lblCallid = Named(SoftLabel(u"Caller ID was on at the start"_s), u"lblCallid"_s);
     binder.AddShow([this, lblCallid] { lblCallid->setVisible(settings.lblCallid); });
     modem->Rows()->addWidget(lblCallid);
-    auto* txtModemPort = Named(new QLineEdit, u"txtModemPort"_s);
+    auto* txtModemPort = Named(new EntryField, u"txtModemPort"_s);
     txtModemPort->setAlignment(Qt::AlignRight);
     txtModemPort->setFixedWidth(Em(portWidth));
     binder.Bind(txtModemPort, settings.txtModemPort);
@@ -161,21 +159,20 @@ QWidget* SetupOptionsTab::MakeDeliveriesTab() {
 }
 
 QWidget* SetupOptionsTab::MakeDeliveryChargeField() {
-    auto* box = Named(new QLineEdit, u"txtDeliveryCharge"_s);
+    auto* box = Named(new EntryField, u"txtDeliveryCharge"_s);
     box->setAccessibleName(u"Delivery Charge"_s);
     box->setAlignment(Qt::AlignRight);
     box->setFixedWidth(Em(chargeWidth));
-    new KeyFilter(box,
-                  [this, box](ushort key) { return FilterNumericKey(key, box->text(), user); });
-    connect(EmptyZeroAtKeyDown(box), &FieldWatch::Left, this,
-            [this, box] { txtDeliveryCharge_LostFocus(box); });
+    box->SetKeyRule([this, box](ushort key) { return FilterNumericKey(key, box->text(), user); });
+    EmptyZeroAtKeyDown(box);
+    connect(box, &EntryField::Left, this, [this, box] { txtDeliveryCharge_LostFocus(box); });
     binder.Bind(box, settings.txtDeliveryCharge);
     QWidget* field = InOneLine({box, SoftLabel(u"(Set to 0 if charge may vary)"_s)});
     field->layout()->setContentsMargins(Em(noteIndent), 0, 0, 0);
     return field;
 }
 
-void SetupOptionsTab::txtDeliveryCharge_LostFocus(QLineEdit* box) {
+void SetupOptionsTab::txtDeliveryCharge_LostFocus(EntryField* box) {
     box->setText(CurrencyText(box->text(), u"the delivery charge of the setup screen"_s));
 }
 

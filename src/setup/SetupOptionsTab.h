@@ -8,7 +8,7 @@
 #include <QTabWidget>
 
 class Card;
-class QLineEdit;
+class EntryField;
 class SetupPrintingTab;
 class SetupTaxationTab;
 
@@ -36,7 +36,7 @@ private:
     template <typename Flag>
     QCheckBox* MakeCheck(const QString& name, const QString& caption, Flag& value);
 
-    void txtDeliveryCharge_LostFocus(QLineEdit* box);
+    void txtDeliveryCharge_LostFocus(EntryField* box);
 
     LiveSettings& settings;
     Operator& user;

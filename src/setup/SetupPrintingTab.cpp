@@ -38,6 +38,7 @@ SetupPrintingTab::SetupPrintingTab(LiveSettings& liveSettings, PrintLook& look)
 
 Card* SetupPrintingTab::MakeLookCard() {
     auto* lblFont = Named(new QLabel, u"lblFont"_s);
+    lblFont->setTextFormat(Qt::PlainText);
     lblFont->setToolTip(u"Select a print FONT, not size"_s);
     lblFont->setMinimumWidth(Em(fontWidth));
     binder.AddShow([this, lblFont] { lblFont->setText(settings.DocumentFont); });

@@ -1,14 +1,14 @@
 #include "setup/SetupTaxationTab.h"
 
+#include "platform/AmountBox.h"
 #include "platform/EntryBox.h"
+#include "platform/EntryField.h"
 #include "platform/Form.h"
 #include "platform/Screen.h"
 #include "platform/Theme.h"
-#include "setup/AmountBox.h"
 #include "setup/GraduatedTax.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -24,7 +24,7 @@ const QStringList rates = {u"4.0"_s, u"5.0"_s, u"6.0"_s, u"7.0"_s, u"5,0"_s, u"6
 const QStringList headings = {u"Sales Tax"_s, u"County Tax"_s,     u"Tax"_s, u"Taxes"_s,
                               u"VAT Tax"_s,   u"Provincial Tax"_s, u"GST"_s};
 
-QComboBox* MakeList(const QString& name, const QStringList& entries, double width) {
+EntryBox* MakeList(const QString& name, const QStringList& entries, double width) {
     auto* list = Named(new EntryBox, name);
     list->addItems(entries);
     list->setFixedWidth(Em(width));
@@ -115,8 +115,8 @@ Card* SetupTaxationTab::MakeGraduatedPanel() {
     auto* form = new Form;
     form->AddRow(u"Apply Primary Tax Rate to all Sales up to  a Total of:"_s,
                  MakeAmount(0, u"Max amount of primary rate"_s));
-    form->AddRow(u"Apply Secondary Tax Rate when exceeded"_s, new QWidget);
-    form->AddRow(u"when Primary Amount is exceeded"_s, new QWidget);
+    form->AddText(u"Apply Secondary Tax Rate when exceeded"_s);
+    form->AddText(u"when Primary Amount is exceeded"_s);
     form->AddRow(u"Apply a Surcharge of:"_s,
                  MakeAmount(1, u"Flat surcharge when 1st total is exceeded"_s));
     auto* buttons = new QHBoxLayout;
@@ -131,8 +131,8 @@ Card* SetupTaxationTab::MakeGraduatedPanel() {
     return panel;
 }
 
-QLineEdit* SetupTaxationTab::MakeAmount(int index, const QString& tip) {
-    auto* box = Named(new QLineEdit, Indexed(u"txtGradulated"_s, index));
+EntryField* SetupTaxationTab::MakeAmount(int index, const QString& tip) {
+    auto* box = Named(new EntryField, Indexed(u"txtGradulated"_s, index));
     box->setToolTip(tip);
     box->setAlignment(Qt::AlignRight);
     box->setFixedWidth(Em(amountWidth));

@@ -9,8 +9,8 @@
 #include <array>
 
 class Card;
+class EntryField;
 class QGridLayout;
-class QLineEdit;
 class QPushButton;
 
 /// The setup screen's tab of the two taxes and the graduated tax scheme.
@@ -31,7 +31,7 @@ private:
                    QString& rate, qint16& isApplied);
     Card* MakeGraduatedCard();
     Card* MakeGraduatedPanel();
-    QLineEdit* MakeAmount(int index, const QString& tip);
+    EntryField* MakeAmount(int index, const QString& tip);
     QPushButton* MakeButton(Button index, const QString& caption);
 
     void cmdGraduatedTax_Click(Button index);
@@ -41,5 +41,5 @@ private:
     Operator& user;
     SettingsBinder binder;
     Card* fraGraduated = nullptr;
-    std::array<QLineEdit*, 2> txtGradulated{};
+    std::array<EntryField*, 2> txtGradulated{};
 };

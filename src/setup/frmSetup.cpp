@@ -69,7 +69,7 @@ void frmSetup::SelectFirstTab() {
 void frmSetup::cmdQuit_Click() {
     // The button's own key leaves the focus where it is, and the field that has it gets its amount
     // checked only when it is left.
-    cmdQuit->setFocus();
+    cmdQuit->setFocus(Qt::ShortcutFocusReason);
     if (office.setup.SaveAll())
         screens.GoFrom(ScreenName::frmSetup, ScreenName::frmStartup);
 }

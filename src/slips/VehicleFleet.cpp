@@ -98,6 +98,10 @@ void VehicleFleet::AddCapacityUnits(const QStringList& units) {
         CapacityUnits.setStringList(list);
 }
 
+bool VehicleFleet::IsEmpty() const {
+    return fgItems.DataRows() == 1 && fgItems.Text(1, NameColumn).isEmpty();
+}
+
 bool VehicleFleet::HasRoom() const {
     return fgItems.DataRows() < mostVehicles;
 }
@@ -161,10 +165,10 @@ VehicleFleet::Saving VehicleFleet::SaveVehicle() {
         fields.cboCapacity.clear();
         product = items.ProductNames.stringList().at(fields.cboProducts);
     }
-    if (IsAdding) {
+    if (IsAdding && !IsEmpty())
         fgItems.SetRows(fgItems.Rows() + 1);
+    if (IsAdding)
         fgItems.SetCurrent(fgItems.DataRows(), NameColumn);
-    }
     const int row = fgItems.CurrentRow();
     fgItems.SetText(row, NameColumn, fields.txtDescription);
     fgItems.SetText(row, CapacityColumn, fields.txtCapacity);

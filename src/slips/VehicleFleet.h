@@ -77,6 +77,9 @@ public:
 
     /// The readers count vehicles in a byte: with 255 there is no room for another.
     bool HasRoom() const;
+    /// Nothing but the blank row that the last vehicle left. The next one added takes it, lest a
+    /// blank first row keep the fleet from being written.
+    bool IsEmpty() const;
 
     /// When there is no Vehicles.txt, the first thing to do is to add a vehicle. True when it is
     /// that.

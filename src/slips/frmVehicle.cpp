@@ -1,8 +1,8 @@
 #include "slips/frmVehicle.h"
 
 #include "platform/EntryBox.h"
+#include "platform/EntryField.h"
 #include "platform/Grid.h"
-#include "platform/KeyFilter.h"
 #include "platform/Theme.h"
 #include "startup/Office.h"
 #include "startup/Screens.h"
@@ -10,7 +10,6 @@
 
 #include <QCheckBox>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -96,12 +95,12 @@ void frmVehicle::MakeMenu() {
 }
 
 void frmVehicle::MakeFields() {
-    txtDescription = Named(new QLineEdit, u"txtDescription"_s);
-    txtDescription->setMaxLength(longestVehicleName);
-    txtCapacity = Named(new QLineEdit, u"txtCapacity"_s);
-    txtCapacity->setMaxLength(longestCapacity);
+    txtDescription = Named(new EntryField, u"txtDescription"_s);
+    txtDescription->SetTypedLimit(longestVehicleName);
+    txtCapacity = Named(new EntryField, u"txtCapacity"_s);
+    txtCapacity->SetTypedLimit(longestCapacity);
     txtCapacity->setAlignment(Qt::AlignRight);
-    new KeyFilter(txtCapacity, [this](ushort key) {
+    txtCapacity->SetKeyRule([this](ushort key) {
         return FilterNumericKey(key, txtCapacity->text(), office.machine.user);
     });
     cboCapacity = MakeChoices(u"cboCapacity"_s, fleet.CapacityUnits);
@@ -113,10 +112,6 @@ void frmVehicle::MakeFields() {
     // A list that was filled anew has nothing selected.
     connect(&office.items.ProductNames, &QAbstractItemModel::modelReset, cboProducts,
             [this] { cboProducts->setCurrentIndex(-1); });
-    for (QWidget* field : {static_cast<QWidget*>(txtDescription),
-                           static_cast<QWidget*>(txtCapacity), static_cast<QWidget*>(cboCapacity),
-                           static_cast<QWidget*>(ckMixed), static_cast<QWidget*>(cboProducts)})
-        field->installEventFilter(this);
 }
 
 QWidget* frmVehicle::MakeEntryCard() {
@@ -200,10 +195,9 @@ void frmVehicle::ReadFields() {
 void frmVehicle::ShowFields() {
     const VehicleFields& fields = fleet.fields;
     const QSignalBlocker shown(ckMixed);
-    txtDescription->setText(fields.txtDescription);
-    txtCapacity->setText(fields.txtCapacity);
-    cboCapacity->setCurrentIndex(cboCapacity->findText(fields.cboCapacity));
-    cboCapacity->setEditText(fields.cboCapacity);
+    txtDescription->Show(fields.txtDescription);
+    txtCapacity->Show(fields.txtCapacity);
+    cboCapacity->Show(fields.cboCapacity);
     ckMixed->setChecked(fields.ckMixed);
     cboProducts->setCurrentIndex(fields.cboProducts);
     txtDescription->setEnabled(fleet.FieldsAreEnabled);
@@ -234,7 +228,7 @@ void frmVehicle::ShowFleet() {
 void frmVehicle::ShowWhere() {
     const int row = fleet.fgItems.CurrentRow();
     if (!fleet.FieldsAreEnabled)
-        SetWhere(u"Vehicles: %1"_s.arg(fleet.fgItems.DataRows()));
+        SetWhere(u"Vehicles: %1"_s.arg(fleet.IsEmpty() ? 0 : fleet.fgItems.DataRows()));
     else if (fleet.IsAdding || row == 0)
         SetWhere(u"New vehicle"_s);
     else
@@ -342,28 +336,4 @@ void frmVehicle::ckMixed_Click() {
 
 void frmVehicle::mnuInstructions_Click() {
     fraInstructions->setVisible(!fraInstructions->isVisible());
-}
-
-void frmVehicle::MoveOnWithEnter(const QWidget* from) {
-    QWidget* const order[] = {txtDescription, ckMixed,     txtCapacity,
-                              cboCapacity,    cboProducts, cmdServices[Save]};
-    bool isBehind = false;
-    for (QWidget* control : order) {
-        if (isBehind && control->isEnabled()) {
-            control->setFocus(Qt::TabFocusReason);
-            return;
-        }
-        isBehind = isBehind || control == from;
-    }
-}
-
-bool frmVehicle::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            MoveOnWithEnter(qobject_cast<QWidget*>(watched));
-            return true;
-        }
-    }
-    return Screen::eventFilter(watched, event);
 }

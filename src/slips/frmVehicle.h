@@ -5,12 +5,12 @@
 #include <map>
 
 class Card;
+class EntryBox;
+class EntryField;
 class Grid;
 class Office;
 class QCheckBox;
-class QComboBox;
 class QLabel;
-class QLineEdit;
 class QPushButton;
 class Screens;
 class VehicleFleet;
@@ -38,9 +38,6 @@ public:
         CancelEntry = 14,
     };
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     QPushButton* MakeButton(Button index, const QString& caption, const QString& tip = {});
     void MakeFootButtons();
@@ -49,7 +46,6 @@ private:
     void MakeFields();
     QWidget* MakeInstructions();
     QWidget* MakeFleetGrid();
-    void MoveOnWithEnter(const QWidget* from);
 
     void ReadFields();
     void ShowFields();
@@ -74,11 +70,11 @@ private:
     Screens& screens;
     VehicleFleet& fleet;
 
-    QLineEdit* txtDescription = nullptr;
-    QLineEdit* txtCapacity = nullptr;
-    QComboBox* cboCapacity = nullptr;
+    EntryField* txtDescription = nullptr;
+    EntryField* txtCapacity = nullptr;
+    EntryBox* cboCapacity = nullptr;
     QCheckBox* ckMixed = nullptr;
-    QComboBox* cboProducts = nullptr;
+    EntryBox* cboProducts = nullptr;
     /// The label of cboProducts, Label1(3).
     QLabel* lblProducts = nullptr;
     Grid* fgItems = nullptr;

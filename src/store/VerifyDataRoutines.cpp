@@ -1,5 +1,6 @@
 #include "store/VerifyDataRoutines.h"
 
+#include "platform/RuntimeFailure.h"
 #include "store/Conversions.h"
 
 using namespace Qt::StringLiterals;
@@ -45,8 +46,10 @@ ushort FilterAddressKey(ushort key, Operator& user) {
 }
 
 bool FormatCurrencyField(QString& fieldText, Operator& user) {
-    if (IsNumeric(fieldText)) {
-        fieldText = CurrencyText(fieldText);
+    QString amount;
+    // A number beyond what an amount can be has no currency text either.
+    if (IsNumeric(fieldText) && PassOver([&] { amount = CurrencyText(fieldText); })) {
+        fieldText = amount;
         return true;
     }
     user.Beep();

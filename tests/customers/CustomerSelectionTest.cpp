@@ -120,7 +120,7 @@ TEST_F(CustomerSelectionTest, LoadShowsTheFirstRecordOfTheFile) {
     EXPECT_TRUE(customers.IsNavigationEnabled);
     EXPECT_TRUE(customers.mnuDeleteEnabled);
     EXPECT_FALSE(customers.IsCancelVisible);
-    EXPECT_EQ(customers.lblLType, u"Business"_s);
+    EXPECT_EQ(customers.lbLType, u"Business"_s);
     EXPECT_EQ(Text(CustomerText::AcctNo), u"4471"_s);
     EXPECT_EQ(Text(CustomerText::BusinessName), u"Corner Grocery"_s);
     EXPECT_EQ(Text(CustomerText::Address1), u"12 Mill Road"_s);
@@ -144,7 +144,7 @@ TEST_F(CustomerSelectionTest, LoadWithoutACustomerFileAsksForTheFirstCustomer) {
     EXPECT_FALSE(customers.IsNavigationEnabled);
     EXPECT_FALSE(customers.mnuDeleteEnabled);
     EXPECT_TRUE(customers.mnuAddEnabled);
-    EXPECT_EQ(customers.lblLType, u"Individual"_s);
+    EXPECT_EQ(customers.lbLType, u"Individual"_s);
     EXPECT_EQ(customers.Name, NamePlace::PersonalName);
     EXPECT_EQ(customers.Focus, FocusOn::AcctNo);
     EXPECT_EQ(folder.Everything(), before) << "a load writes no file";
@@ -189,7 +189,7 @@ TEST_F(CustomerSelectionTest, EmptyCustomerFileShowsABlankRecordAndMakesNoFile) 
     EXPECT_EQ(customers.CustomerCount, 0);
     for (const QString& text : customers.Fields.txtCustomer)
         EXPECT_EQ(text, QString());
-    EXPECT_EQ(customers.lblLType, u"Individual"_s);
+    EXPECT_EQ(customers.lbLType, u"Individual"_s);
     EXPECT_EQ(customers.Focus, FocusOn::AcctNo);
     EXPECT_EQ(folder.Everything(), before);
 }
@@ -251,7 +251,7 @@ TEST_F(CustomerSelectionTest, AddressStyleFollowsTheCaptionOfTheSetupScreen) {
 TEST_F(CustomerSelectionTest, IndividualShowsHisNamePartsAndFillsTheHiddenName) {
     LoadThree();
     customers.MoveTo(Move::Next);
-    EXPECT_EQ(customers.lblLType, u"Individual"_s);
+    EXPECT_EQ(customers.lbLType, u"Individual"_s);
     EXPECT_EQ(customers.Name, NamePlace::PersonalName);
     EXPECT_EQ(customers.Fields.cboTitle, u"Mr/Mrs"_s);
     EXPECT_EQ(Text(CustomerText::FirstName), u"Ann"_s);
@@ -291,7 +291,7 @@ TEST_F(CustomerSelectionTest, ShowingBelowRecordOneDoesNothing) {
 
 TEST_F(CustomerSelectionTest, UnknownAccountTypeIsAnIndividual) {
     LoadWith({SampleCustomer{.type = "business"}});
-    EXPECT_EQ(customers.lblLType, u"Individual"_s);
+    EXPECT_EQ(customers.lbLType, u"Individual"_s);
 }
 
 TEST_F(CustomerSelectionTest, MiddleInitialIsBlankOnEveryRecord) {
@@ -308,12 +308,12 @@ TEST_F(CustomerSelectionTest, TogglingTheTypeKeepsTheValuesOfTheFields) {
     LoadThree();
     Text(CustomerText::BusinessName) = u"Changed"_s;
     customers.ToggleAccountType();
-    EXPECT_EQ(customers.lblLType, u"Individual"_s);
+    EXPECT_EQ(customers.lbLType, u"Individual"_s);
     EXPECT_EQ(customers.Name, NamePlace::PersonalName);
     EXPECT_EQ(customers.Focus, FocusOn::AcctNo);
     EXPECT_EQ(Text(CustomerText::BusinessName), u"Changed"_s);
     customers.ToggleAccountType();
-    EXPECT_EQ(customers.lblLType, u"Business"_s);
+    EXPECT_EQ(customers.lbLType, u"Business"_s);
     EXPECT_EQ(customers.AccountDisplayName, u"Corner Grocery"_s)
         << "the caption is that of the record, not of the screen";
 }
@@ -435,7 +435,7 @@ TEST_F(CustomerSelectionTest, NewPersonIsWrittenToAllThreeFilesByteByByte) {
                               " "
                               "Cole                     "
                               "Individual"
-                              "\0\0"
+                              "\1\0"
                               "\0\0",
                               328);
     EXPECT_EQ(folder.Read(customerFile), customer);
@@ -658,7 +658,7 @@ TEST_F(CustomerSelectionTest, AddSavesTheRecordAndPreparesABlankIndividual) {
     EXPECT_EQ(customers.CustomerCount, 4);
     EXPECT_EQ(customers.CurrentRecord, 4);
     EXPECT_TRUE(customers.IsCancelVisible);
-    EXPECT_EQ(customers.lblLType, u"Individual"_s);
+    EXPECT_EQ(customers.lbLType, u"Individual"_s);
     EXPECT_EQ(Text(CustomerText::AcctNo), QString());
     EXPECT_EQ(Text(CustomerText::LastName), QString());
     EXPECT_EQ(Text(CustomerText::Phone), QString());
@@ -731,6 +731,23 @@ TEST_F(CustomerSelectionTest, CancelGoesToTheLastRecordNotToTheOneBefore) {
     EXPECT_EQ(customers.CurrentRecord, 3);
     EXPECT_EQ(Text(CustomerText::AcctNo), u"77"_s);
     EXPECT_EQ(customers.cboAccounts.rowCount(), 4) << "the list is not refreshed";
+}
+
+TEST_F(CustomerSelectionTest, NextAddDoesNotOverwriteARecordOutOfReach) {
+    LoadThree();
+    customers.AddNewCustomer();
+    EnterPerson();
+    customers.MoveTo(Move::First);
+    customers.CancelAddNew();
+    ASSERT_EQ(customers.CustomerCount, 3);
+    const QByteArray outOfReach = CustomerOnDisk(4);
+    customers.AddNewCustomer();
+    EXPECT_EQ(customers.CurrentRecord, 5);
+    EnterPerson();
+    Text(CustomerText::AcctNo) = u"2002"_s;
+    customers.MoveTo(Move::First);
+    EXPECT_EQ(CustomerOnDisk(5).left(4), "2002");
+    EXPECT_EQ(CustomerOnDisk(4), outOfReach);
 }
 
 TEST_F(CustomerSelectionTest, SavedAddLeavesCancelVisibleAndALaterCancelHidesTheNewestRecord) {

@@ -1,6 +1,6 @@
 #include "customers/SampleCustomers.h"
 #include "customers/frmCustomer.h"
-#include "platform/TextBox.h"
+#include "platform/EntryField.h"
 #include "platform/WindowLayout.h"
 #include "support/ScreenTest.h"
 
@@ -59,7 +59,9 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(screens.Find(screen)));
     }
 
-    TextBox* Text(int index) { return Find<TextBox>(screen, u"txtCustomer(%1)"_s.arg(index)); }
+    EntryField* Text(int index) {
+        return Find<EntryField>(screen, u"txtCustomer(%1)"_s.arg(index));
+    }
     QString Shown(int index) { return Text(index)->text(); }
     QComboBox* Combo(const QString& name) { return Find<QComboBox>(screen, name); }
     QAbstractButton* Button(const QString& name) { return Find<QAbstractButton>(screen, name); }
@@ -151,7 +153,7 @@ TEST_F(CustomerScreen, OpensOnTheFirstCustomerWithTheFocusInTheNumber) {
     EXPECT_EQ(Shown(1), u"Corner Grocery"_s);
     EXPECT_EQ(Combo(u"cboCity"_s)->currentText(), u"Springfield"_s);
     EXPECT_EQ(Combo(u"cboStates"_s)->currentText(), u"IL"_s);
-    EXPECT_EQ(Find<QLabel>(screen, u"lblLType"_s)->text(), u"Business"_s);
+    EXPECT_EQ(Find<QLabel>(screen, u"lbLType"_s)->text(), u"Business"_s);
     EXPECT_EQ(Focused(), u"txtCustomer(0)"_s);
     EXPECT_EQ(Where(), u"Corner Grocery  \u00b7  Customer 1 of 3"_s);
     EXPECT_TRUE(Text(1)->isVisible());
@@ -164,7 +166,7 @@ TEST_F(CustomerScreen, OpensOnTheFirstCustomerWithTheFocusInTheNumber) {
 TEST_F(CustomerScreen, EmptyFileOpensForThePersonOfTheFirstRecord) {
     OpenEmpty();
     user.ExpectNothingLeft();
-    EXPECT_EQ(Find<QLabel>(screen, u"lblLType"_s)->text(), u"Individual"_s);
+    EXPECT_EQ(Find<QLabel>(screen, u"lbLType"_s)->text(), u"Individual"_s);
     EXPECT_TRUE(Text(8)->isVisible());
     EXPECT_FALSE(Text(1)->isVisible());
     for (int index = 0; index <= 6; ++index)
@@ -269,6 +271,44 @@ TEST_F(CustomerScreen, CaretGoesBehindAProposedAreaCodeAndExchange) {
     EXPECT_EQ(Shown(6), u"309-555-0100"_s);
 }
 
+TEST_F(CustomerScreen, CaretGoesBehindAProposedAreaCodeAfterAClickToo) {
+    OpenThree();
+    Text(6)->setText(u"309-555-"_s);
+    QTest::mouseClick(Text(6), Qt::LeftButton, Qt::NoModifier, QPoint(6, 6));
+    QTest::qWait(1);
+    EXPECT_EQ(Text(6)->cursorPosition(), 8);
+    Text(3)->setFocus();
+    Text(6)->setText(u"309-5556"_s + u"7"_s);
+    QTest::mouseClick(Text(6), Qt::LeftButton, Qt::NoModifier, QPoint(6, 6));
+    QTest::qWait(1);
+    EXPECT_LT(Text(6)->cursorPosition(), 9) << "not exactly eight characters";
+}
+
+TEST_F(CustomerScreen, WheelAndPageKeysChooseNoAccount) {
+    OpenThree();
+    Click(screen, u"Command1(1)"_s);
+    QComboBox* accounts = Combo(u"cboAccounts"_s);
+    accounts->setFocus();
+    const QString before = Shown(0);
+    const QPointF place(5, 5);
+    QWheelEvent wheel(place, accounts->mapToGlobal(place), {}, QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(accounts, &wheel);
+    EXPECT_EQ(Shown(0), before);
+    Press(accounts, Qt::Key_PageDown);
+    EXPECT_EQ(Shown(0), before);
+}
+
+TEST_F(CustomerScreen, FailedValidationBringsTheNameBackBeforeTheList) {
+    OpenThree();
+    Text(1)->clear();
+    Click(screen, u"Command1(1)"_s);
+    user.ExpectMessage(u"The Account Name Cannot be Blank"_s);
+    Click(screen, u"cmdNav(2)"_s);
+    EXPECT_TRUE(Text(1)->isVisible());
+    EXPECT_EQ(screens.Find(screen)->focusWidget(), Text(1));
+}
+
 TEST_F(CustomerScreen, NumberIsCheckedWhenTheOperatorLeavesItsField) {
     OpenThree();
     Enter(0, u"77"_s);
@@ -334,7 +374,7 @@ TEST_F(CustomerScreen, MovingAwayFromABusinessWithoutANameStays) {
 TEST_F(CustomerScreen, ToggleOfTheTypeShowsTheOtherNameFields) {
     OpenThree();
     Click(screen, u"cmdAcctType"_s);
-    EXPECT_EQ(Find<QLabel>(screen, u"lblLType"_s)->text(), u"Individual"_s);
+    EXPECT_EQ(Find<QLabel>(screen, u"lbLType"_s)->text(), u"Individual"_s);
     EXPECT_TRUE(Text(8)->isVisible());
     EXPECT_FALSE(Text(1)->isVisible());
     EXPECT_EQ(Shown(1), u"Corner Grocery"_s);
@@ -347,8 +387,8 @@ TEST_F(CustomerScreen, AddressStyleIsReadEachTimeTheScreenComesToTheFront) {
     screens.Show(screen);
     EXPECT_FALSE(Control(u"fraUSAddress"_s)->isVisible());
     EXPECT_TRUE(Control(u"fraIntAddress"_s)->isVisible());
-    EXPECT_EQ(Find<TextBox>(screen, u"txtAdd3"_s)->text(), u"Springfield"_s);
-    EXPECT_EQ(Find<TextBox>(screen, u"txtAdd4"_s)->text(), u"62704"_s);
+    EXPECT_EQ(Find<EntryField>(screen, u"txtAdd3"_s)->text(), u"Springfield"_s);
+    EXPECT_EQ(Find<EntryField>(screen, u"txtAdd4"_s)->text(), u"62704"_s);
     office.settings.cmdAddress = u"USA Style Address"_s;
     screens.Show(screen);
     EXPECT_TRUE(Control(u"fraUSAddress"_s)->isVisible());
@@ -358,7 +398,7 @@ TEST_F(CustomerScreen, InternationalAddressIsTypedAndSaved) {
     OpenThree();
     office.settings.cmdAddress = u"International Style Address"_s;
     screens.Show(screen);
-    auto* third = Find<TextBox>(screen, u"txtAdd3"_s);
+    auto* third = Find<EntryField>(screen, u"txtAdd3"_s);
     third->setFocus();
     third->selectAll();
     Type(third, u"London"_s);

@@ -56,6 +56,33 @@ ReplaceLine() {
     sed -i "$1s/.*/$2\r/" "$business/$3"
 }
 
+# The setup screen of a business without past slips; it opens with the keys on the way to its options.
+OpenOptions() {
+    WaitForTitle
+    Continue
+    OpenSetup
+    OpenSetupOptions USA
+}
+
+# Behind the buttons of the look and the box of the colour.
+SaveWithWrongCopies() {
+    OpenOptions
+    Keys Tab Tab Tab Tab Tab ctrl+a
+    Type x
+    SaveSetup
+}
+
+# On the fifth of the sub-tabs, behind two boxes.
+LeaveDeliveryChargeEmpty() {
+    OpenOptions
+    Keys Right Right Right Right Tab Tab Tab ctrl+a BackSpace Tab
+}
+
+SpoilLogo() {
+    printf 'This is no picture.' >"$business/logo.bmp"
+    SetTextFile "$business/CompanyLogo.txt" "\"$business/logo.bmp\""
+}
+
 SpoilHolidays() {
     printf '"Christmas"\r\n' >"$business/Holidays.txt"
 }
@@ -126,6 +153,20 @@ HolidaysThatAreNoDatesStopTheBoard)
     }
     PlayUpToFailure() { OpenBoard; }
     sentence='Reading Holidays.txt failed: "Christmas" is not a date.'
+    ;;
+LogoThatIsNoPictureStopsTheStart)
+    Spoil() { SpoilLogo; }
+    sentence="Loading the picture $business/logo.bmp failed: Unsupported image format."
+    ;;
+CopiesThatAreNoNumberStopTheSave)
+    Spoil() { RemovePastSlips "$business"; }
+    PlayUpToFailure() { SaveWithWrongCopies; }
+    sentence='The text "x" is not a number (the number of print copies).'
+    ;;
+DeliveryChargeLeftEmptyStopsTheProgram)
+    Spoil() { RemovePastSlips "$business"; }
+    PlayUpToFailure() { LeaveDeliveryChargeEmpty; }
+    sentence='The text "" is not a number (the delivery charge of the setup screen).'
     ;;
 UnreadableFileStopsTheStart)
     Obstruct() { chmod 000 "$business/CustomerData.txt"; }

@@ -13,15 +13,6 @@ protected:
     }
 };
 
-TEST_F(ItemFieldsTest, TypingReplacesAZeroAmountInCurrencyFormatAlone) {
-    EXPECT_TRUE(TypingReplacesAmount(u"$0.00"_s));
-    for (const QString& text : {u"0"_s, u"0.00"_s, u"$0.01"_s, u""_s})
-        EXPECT_FALSE(TypingReplacesAmount(text)) << text.toStdString();
-    UseLocale("de_DE.UTF-8");
-    EXPECT_TRUE(TypingReplacesAmount(u"0,00\u00a0\u20ac"_s));
-    EXPECT_FALSE(TypingReplacesAmount(u"$0.00"_s));
-}
-
 TEST_F(ItemFieldsTest, TypingReplacesAZeroCountAlone) {
     EXPECT_TRUE(TypingReplacesCount(u"0"_s));
     for (const QString& text : {u"00"_s, u"10"_s, u""_s, u"$0.00"_s})
@@ -43,6 +34,12 @@ TEST_F(ItemFieldsTest, TextThatIsNoAmountBeepsIsEmptiedAndRefused) {
     EXPECT_EQ(Left(u"abc"_s, false), QString());
     EXPECT_EQ(user.Beeps, 1);
     EXPECT_EQ(Left(u"1.2.3"_s, false), QString());
+    EXPECT_EQ(user.Beeps, 2);
+}
+
+TEST_F(ItemFieldsTest, NumberBeyondAnyAmountIsRefusedLikeNoNumber) {
+    EXPECT_EQ(Left(u"1e300"_s, false), QString());
+    EXPECT_EQ(Left(u"99999999999999999999"_s, false), QString());
     EXPECT_EQ(user.Beeps, 2);
 }
 

@@ -281,25 +281,19 @@ TEST_F(CompanyLogoTest, StoreAfterClearWritesTheFoundPathAndNoSize) {
     EXPECT_TRUE(live.logo.IsEmpty());
 }
 
-TEST_F(CompanyLogoTest, CharacterThatTheCodePageLacksLosesTheLogoAtTheNextStart) {
-    const QString cyrillic = u"/home/dairy/\u041b\u043e\u0433\u043e.bmp"_s;
-    pictures.Files[cyrillic] = {600, 300};
-    Find(cyrillic);
-    Store();
-    EXPECT_EQ(folder.Read(logoFile), "\"/home/dairy/????.bmp\"\r\n");
-    Restart();
-    EXPECT_TRUE(live.logo.IsEmpty());
-}
-
-TEST_F(CompanyLogoTest, QuoteInThePathEndsItAtTheNextStart) {
-    const QString quoted = u"/home/dairy/15\" sign.bmp"_s;
-    pictures.Files[quoted] = {600, 300};
-    Find(quoted);
-    Store();
-    EXPECT_EQ(folder.Read(logoFile), "\"/home/dairy/15\" sign.bmp\"\r\n");
-    Restart();
-    EXPECT_EQ(live.logoFile, u"/home/dairy/15"_s);
-    EXPECT_TRUE(live.logo.IsEmpty());
+TEST_F(CompanyLogoTest, PathThatTheFileCouldNotGiveBackIsToldAndNotStored) {
+    folder.Write(logoFile, "\"/home/dairy/old.bmp\"\r\n");
+    for (const QString& path :
+         {u"/home/dairy/\u041b\u043e\u0433\u043e.bmp"_s, u"/home/dairy/15\" sign.bmp"_s}) {
+        pictures.Files[path] = {600, 300};
+        Find(path);
+        user.ExpectMessage(
+            u"The name of this picture or of its folder has a character that can't be stored.\n"
+            u"Rename it or move it to your data folder, and find it again."_s);
+        EXPECT_FALSE(logo.Store());
+        EXPECT_EQ(folder.Read(logoFile), "\"/home/dairy/old.bmp\"\r\n");
+        EXPECT_FALSE(folder.Has(u"LogoSettings.txt"_s));
+    }
 }
 
 TEST_F(CompanyLogoTest, FolderThatCannotBeWrittenFailsTheStore) {

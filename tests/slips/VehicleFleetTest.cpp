@@ -508,20 +508,27 @@ TEST_F(VehicleFleetTest, EmptyFleetWritesTheUnitsAlone) {
     EXPECT_EQ(folder.Read(capacityFile), commonUnitLines);
 }
 
-TEST_F(VehicleFleetTest, BlankFirstRowKeepsTheFleetFromBeingWritten) {
+TEST_F(VehicleFleetTest, VehicleAddedAfterTheLastWasDeletedTakesItsBlankRow) {
     AddMixed(u"Truck"_s);
     fleet.WriteFleet();
     Pick(1);
     DeletePicked();
+    EXPECT_TRUE(fleet.IsEmpty());
     AddMixed(u"Van"_s);
-    ASSERT_EQ(fleet.fgItems.DataRows(), 2);
-    EXPECT_EQ(Row(1)[0], u""_s);
+    ASSERT_EQ(fleet.fgItems.DataRows(), 1);
+    EXPECT_FALSE(fleet.IsEmpty());
+    fleet.WriteFleet();
+    EXPECT_EQ(folder.Read(vehiclesFile), VehicleBytes("Van", "100", trueBytes, "lbs", "N/A"));
+}
+
+TEST_F(VehicleFleetTest, BlankFirstRowKeepsTheFleetFromBeingWritten) {
+    folder.Write(vehiclesFile, VehicleBytes("", "", falseBytes, "", "") +
+                                   VehicleBytes("Van", "100", trueBytes, "lbs", "N/A"));
+    fleet.Load();
+    EXPECT_FALSE(fleet.IsEmpty());
     fleet.WriteFleet();
     EXPECT_FALSE(folder.Has(vehiclesFile));
     EXPECT_EQ(Row(2)[0], u"Van"_s);
-    Pick(1);
-    DeletePicked();
-    EXPECT_EQ(folder.Read(vehiclesFile), VehicleBytes("Van", "100", trueBytes, "lbs", "N/A"));
 }
 
 TEST_F(VehicleFleetTest, BlankRowLeftByTheLastVehicleCanBeFilledIn) {

@@ -1,5 +1,6 @@
 #include "store/VerifyDataRoutines.h"
 
+#include "platform/RegionalFormats.h"
 #include "support/ScriptedOperator.h"
 #include "support/TextOutput.h"
 
@@ -9,8 +10,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Under United States formats.
 class VerifyDataRoutinesTest : public testing::Test {
 protected:
+    VerifyDataRoutinesTest() {
+        const QLocale american(u"en_US"_s);
+        RegionalFormats::SetCurrent({american, american});
+    }
+
     ushort Numeric(char16_t key, const QString& fieldText) {
         return FilterNumericKey(key, fieldText, user);
     }
@@ -140,6 +147,30 @@ TEST_F(VerifyDataRoutinesTest, CurrencyFieldEmptiesAnyOtherTextWithABeep) {
     EXPECT_FALSE(FormatCurrencyField(text, user));
     EXPECT_EQ(text, u""_s);
     EXPECT_EQ(user.Beeps, 1);
+}
+
+TEST_F(VerifyDataRoutinesTest, CurrencyFieldReadsNumbersInTheRegionsForm) {
+    const QLocale german(u"de_DE"_s);
+    RegionalFormats::SetCurrent({german, german});
+    QString text = u"1.234,5"_s;
+    EXPECT_TRUE(FormatCurrencyField(text, user));
+    EXPECT_EQ(text, u"1.234,50\u00a0\u20ac"_s);
+    EXPECT_EQ(FilterNoSpecial(u'/', u"1.234,5"_s, user), u'/');
+    EXPECT_EQ(FilterNoSpecial(u'/', u"12 \u20ac"_s, user), u'/');
+}
+
+TEST_F(VerifyDataRoutinesTest, CurrencyFieldOfNothingOrOfTooMuchIsEmptiedWithABeep) {
+    for (const QString& typed : {QString(), u"1e300"_s}) {
+        QString text = typed;
+        EXPECT_FALSE(FormatCurrencyField(text, user));
+        EXPECT_EQ(text, u""_s);
+    }
+    EXPECT_EQ(user.Beeps, 2);
+}
+
+TEST_F(VerifyDataRoutinesTest, NoSpecialTakesAnAmountForAPlainNumber) {
+    EXPECT_EQ(FilterNoSpecial(u'/', u"$12"_s, user), u'/');
+    EXPECT_EQ(FilterNoSpecial(u'/', u"1,234"_s, user), u'/');
 }
 
 TEST_F(VerifyDataRoutinesTest, InvalidDateIsTold) {
