@@ -101,7 +101,7 @@ en_US)
         Text 1
         Text 25
         Text 10 Business
-        Hex "$no" "$no"
+        Hex 0100 "$no"
     }
     ExpectIndividualAccount() {
         Text 20 217-555-0177
@@ -213,7 +213,7 @@ de_DE)
         Text 1
         Text 25
         Text 10 Business
-        Hex "$no" "$no"
+        Hex 0100 "$no"
     }
     # The city proposed is the business's own. It stands in the field of the other style.
     ExpectIndividualAccount() {
