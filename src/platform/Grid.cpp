@@ -37,8 +37,10 @@ Grid::Grid(GridModel& gridModel, QWidget* parent) : QTableView(parent), grid(gri
     connect(&grid, &GridModel::CurrentChanged, this, &Grid::FollowModel);
     connect(this, &QTableView::clicked, this,
             [this](const QModelIndex& index) { Q_EMIT Clicked(index.row() + 1, index.column()); });
-    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
-        isSizedByUser = isSizedByUser || QApplication::mouseButtons() != Qt::NoButton;
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
+        // One column takes what is left at any time, also while a button is pressed elsewhere.
+        isSizedByUser = isSizedByUser || (column != StretchedColumn() &&
+                                          QApplication::mouseButtons() != Qt::NoButton);
     });
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
             [this](int column) { Q_EMIT Clicked(0, column); });
@@ -47,6 +49,14 @@ Grid::Grid(GridModel& gridModel, QWidget* parent) : QTableView(parent), grid(gri
 void Grid::SetEmptyHint(const QString& text) {
     emptyHint = text;
     viewport()->update();
+}
+
+/// The last that is not hidden.
+int Grid::StretchedColumn() const {
+    int column = grid.Columns() - 1;
+    while (column > 0 && isColumnHidden(column))
+        --column;
+    return column;
 }
 
 void Grid::FitColumns() {

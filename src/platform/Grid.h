@@ -34,6 +34,7 @@ protected:
 private:
     void FollowModel(int row, int column);
     bool IsEmpty() const;
+    int StretchedColumn() const;
 
     GridModel& grid;
     QString emptyHint;

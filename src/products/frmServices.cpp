@@ -446,8 +446,7 @@ void frmServices::ShowEntries() {
         for (const BoundField& bound : *fields)
             bound.field->Show(*bound.text);
     }
-    if (cboCategory->currentText() != items.entry.cboCategory)
-        cboCategory->setEditText(items.entry.cboCategory);
+    cboCategory->Show(items.entry.cboCategory);
     ckCategory->setChecked(items.ckCategory);
     ckByCategory->setChecked(items.ckByCategory);
 }

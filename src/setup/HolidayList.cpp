@@ -115,6 +115,11 @@ void HolidayList::Redo() {
     disk.DeleteWithBackup(holidaysFile);
 }
 
+QModelIndex HolidayList::EntryOf(QDate date) const {
+    const qsizetype row = lstHolidays.stringList().indexOf(ShortDateText(date));
+    return lstHolidays.index(int(row));
+}
+
 QList<QDate> HolidayList::Days() const {
     QList<QDate> days;
     for (const QString& entry : lstHolidays.stringList()) {

@@ -32,6 +32,9 @@ public:
     /// Asks, then empties the list and deletes Holidays.txt at once, without waiting for a save.
     void Redo();
 
+    /// Where a date stands in lstHolidays; nowhere is an index that is not valid.
+    QModelIndex EntryOf(QDate date) const;
+
     /// The days that the list blocks, in its order.
     QList<QDate> Days() const;
 

@@ -89,7 +89,7 @@ void frmHolidays::MarkHolidays() {
 void frmHolidays::MonthView1_DateClick(QDate date) {
     holidays.MonthView1_DateClick(date);
     MarkHolidays();
-    lstHolidays->scrollToBottom();
+    lstHolidays->scrollTo(holidays.EntryOf(date));
 }
 
 void frmHolidays::cmdHolidays_Click(Button index) {

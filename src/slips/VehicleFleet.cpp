@@ -64,10 +64,11 @@ void VehicleFleet::LoadVehicles() {
     for (int row = 1; row <= count; ++row) {
         const auto vehicle = ReadRecord<VehicleRecord>(disk, disk.DiskFile, row);
         names += vehicle.Name.Trimmed();
-        units += vehicle.Units.Trimmed();
+        // A file that is cut leaves NUL characters in its last record, which are part of no unit.
+        units += TrimBlanks(vehicle.Units.Trimmed().remove(QChar(u'\0')));
         fgItems.SetText(row, NameColumn, names.last());
         fgItems.SetText(row, CapacityColumn, vehicle.Capacity.Trimmed());
-        fgItems.SetText(row, UnitsColumn, units.last());
+        fgItems.SetText(row, UnitsColumn, vehicle.Units.Trimmed());
         fgItems.SetText(row, MixedColumn, BooleanWord(vehicle.Mixed.Value()));
         fgItems.SetText(row, ProductColumn, vehicle.Product.Trimmed());
     }

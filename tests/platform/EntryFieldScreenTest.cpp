@@ -232,6 +232,31 @@ TEST_F(EntryFieldMomentsTest, FieldCanTakeTheFocusBack) {
     EXPECT_FALSE(other.hasFocus());
 }
 
+TEST_F(EntryFieldMomentsTest, RefusalTakesTheFocusBackFromWhereverItHasGone) {
+    field.SetKeyRule([this](ushort) {
+        other.setFocus();
+        return ushort(0);
+    });
+    QTest::keyClicks(&field, u"1"_s);
+    EXPECT_TRUE(field.hasFocus());
+    EXPECT_EQ(field.text(), QString());
+    field.SetKeyRule([](ushort) { return ushort(0); });
+    other.setFocus();
+    QTest::keyClicks(&field, u"1"_s);
+    EXPECT_TRUE(field.hasFocus());
+    EXPECT_FALSE(other.hasFocus());
+}
+
+TEST_F(EntryFieldMomentsTest, CharacterThatIsTakenLeavesTheFocusWhereItHasGone) {
+    field.SetKeyRule([this](ushort key) {
+        other.setFocus();
+        return key;
+    });
+    QTest::keyClicks(&field, u"1"_s);
+    EXPECT_EQ(field.text(), u"1"_s);
+    EXPECT_TRUE(other.hasFocus());
+}
+
 TEST_F(EntryFieldMomentsTest, ComposedCharacterIsADownOnceItIsDone) {
     QInputMethodEvent begun(u"e"_s, {});
     QApplication::sendEvent(&field, &begun);

@@ -81,6 +81,22 @@ TEST_F(InventoriedItemsTest, ColumnsHaveTheirHeadings) {
                                    u"When At"_s, u"Rec #"_s}));
 }
 
+TEST_F(InventoriedItemsTest, AmountsAndCountsLineUpOnTheRightUnderTheirHeadings) {
+    Write({{.description = "Gravel"}});
+    items.Load();
+    const QString alignments = u"llrrrrrrrl"_s;
+    const GridModel& grid = items.fgItems;
+    ASSERT_EQ(grid.columnCount(), alignments.size());
+    for (int column = 0; column < grid.columnCount(); ++column) {
+        const int expected =
+            Qt::AlignVCenter | (alignments[column] == u'r' ? Qt::AlignRight : Qt::AlignLeft);
+        EXPECT_EQ(grid.data(grid.index(0, column), Qt::TextAlignmentRole).toInt(), expected)
+            << column;
+        EXPECT_EQ(grid.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt(), expected)
+            << column;
+    }
+}
+
 TEST_F(InventoriedItemsTest, SortChoicesStandInTheOrderOfTheirColumns) {
     EXPECT_EQ(InventoriedItems::SortChoices(),
               (QStringList{u"Description"_s, u"Category"_s, u"Cost"_s, u"Price"_s, u"On-Hand"_s}));
@@ -261,6 +277,33 @@ TEST_F(InventoriedItemsTest, CategoryThatNoItemHasLeavesNoRows) {
     EXPECT_FALSE(items.enabled.addNew);
 }
 
+TEST_F(InventoriedItemsTest, CategoryLoadedAloneIsInTheOrderOfTheSortChoice) {
+    Write({{.description = "a", .category = "Bulk", .unitCost = 100'000},
+           {.description = "b", .category = "Sand", .unitCost = 50'000},
+           {.description = "c", .category = "Bulk", .unitCost = 90'000},
+           {.description = "d", .category = "Bulk", .unitCost = 40'000}});
+    items.Load();
+    items.lstSortBy = costChoice;
+    items.ckCategory_Click(true);
+    items.entry.cboCategory = u"Bulk"_s;
+    items.ReloadOrSort();
+    // By the category alone, equals would stand as in the file: a, c, d.
+    EXPECT_EQ(Column(descriptionColumn), (QStringList{u"d"_s, u"c"_s, u"a"_s}));
+    EXPECT_EQ(Column(costChoice), (QStringList{u"$4.00"_s, u"$9.00"_s, u"$10.00"_s}));
+    EXPECT_EQ(items.fgItems.CurrentColumn(), costChoice);
+}
+
+TEST_F(InventoriedItemsTest, LoadOfTheScreenPutsTheSortChoiceOutOfForce) {
+    Write({{.description = "b", .category = "X"}, {.description = "a", .category = "Y"}});
+    items.lstSortBy = 0;
+    items.ckByCategory_Click(true);
+    items.ckByCategory_Click(false);
+    items.Load();
+    EXPECT_FALSE(items.ApplySortChoice);
+    items.ReloadOrSort();
+    EXPECT_EQ(Column(descriptionColumn), (QStringList{u"b"_s, u"a"_s}));
+}
+
 TEST_F(InventoriedItemsTest, CategoriesAreCollectedFromTheFile) {
     Write({{.description = "a", .category = "Sand"},
            {.description = "b", .category = ""},
@@ -435,6 +478,29 @@ TEST_F(InventoriedItemsTest, ModifyTakesTheRowIntoTheEntry) {
     EXPECT_EQ(items.entry.txtReorderAt, u"2"_s);
 }
 
+TEST_F(InventoriedItemsTest, LoadOfAnItemOpensTheGridThatModifyClosed) {
+    Write({{.description = "Gravel"}});
+    items.Load();
+    Pick(u"Gravel"_s);
+    items.Modify();
+    ASSERT_FALSE(items.enabled.grid);
+    items.ReloadOrSort();
+    EXPECT_TRUE(items.enabled.grid);
+    EXPECT_TRUE(items.enabled.entry);
+    EXPECT_EQ(items.entry.txtDescription, u"Gravel"_s);
+}
+
+TEST_F(InventoriedItemsTest, LoadWithoutAnItemLeavesTheGridThatModifyClosed) {
+    Write({{.description = "Gravel"}});
+    items.Load();
+    Pick(u"Gravel"_s);
+    items.Modify();
+    items.ckCategory_Click(true);
+    items.entry.cboCategory = u"Sand"_s;
+    items.ReloadOrSort();
+    EXPECT_FALSE(items.enabled.grid);
+}
+
 TEST_F(InventoriedItemsTest, RetainedCategoryGoesToTheModifiedItem) {
     Write({{.description = "Gravel", .category = "Bulk"}});
     items.Load();
@@ -569,6 +635,17 @@ TEST_F(InventoriedItemsTest, FailureOfASaveNamesTheField) {
     items.entry.txtOnHand = u"40000"_s;
     EXPECT_EQ(FailureOf([&] { items.Save(); }).Sentence(),
               u"The number 40000 is outside its range (the units on hand)."_s);
+}
+
+TEST_F(InventoriedItemsTest, FirstItemBeyondItsFieldLeavesAnEmptyFile) {
+    EnterNew(u"Gravel"_s);
+    items.entry.txtOnHand = u"40000"_s;
+    const RuntimeFailure failure = FailureOf([&] { items.Save(); });
+    EXPECT_EQ(failure.Kind(), FailureKind::Overflow);
+    EXPECT_TRUE(failure.Sentence().contains(u"40000 "_s)) << failure.what();
+    EXPECT_TRUE(failure.Sentence().contains(u"the units on hand"_s)) << failure.what();
+    // The file is opened before the row is turned into a record.
+    EXPECT_EQ(folder.Read(itemsFile), "");
 }
 
 TEST_F(InventoriedItemsTest, ItemNumber32768IsAnOverflowAndTheFileStays) {

@@ -3,6 +3,8 @@
 #include "ItemBytes.h"
 #include "support/OfficeTest.h"
 
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -55,6 +57,22 @@ TEST_F(NonInventoriedItemsTest, ColumnsHaveTheirHeadings) {
                                    u"Rec #"_s}));
 }
 
+TEST_F(NonInventoriedItemsTest, CountsLineUpOnTheRightUnderTheirHeadings) {
+    Write({{.description = "Crate"}});
+    items.Load();
+    const QString alignments = u"lrrrl"_s;
+    const GridModel& grid = items.fgNonItem;
+    ASSERT_EQ(grid.columnCount(), alignments.size());
+    for (int column = 0; column < grid.columnCount(); ++column) {
+        const int expected =
+            Qt::AlignVCenter | (alignments[column] == u'r' ? Qt::AlignRight : Qt::AlignLeft);
+        EXPECT_EQ(grid.data(grid.index(0, column), Qt::TextAlignmentRole).toInt(), expected)
+            << column;
+        EXPECT_EQ(grid.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt(), expected)
+            << column;
+    }
+}
+
 TEST_F(NonInventoriedItemsTest, WithoutAFileNothingIsLoadedAndNoFileIsMade) {
     items.Load();
     EXPECT_EQ(items.fgNonItem.DataRows(), 0);
@@ -72,6 +90,66 @@ TEST_F(NonInventoriedItemsTest, GridIsOrderedByTheStockAsText) {
     EXPECT_EQ(Row(2), (QStringList{u"b"_s, u"10"_s, u"5"_s, u"2"_s, u"2"_s}));
     EXPECT_EQ(items.fgNonItem.CurrentColumn(), onHandColumn);
     EXPECT_FALSE(items.enabled.modify);
+}
+
+TEST_F(NonInventoriedItemsTest, LostFileComesBackFromBackup) {
+    const QByteArray bytes = NonItemBytes{.description = "Crate"}.Record();
+    folder.Write(u"Backup/"_s + itemsFile, bytes);
+    items.Load();
+    EXPECT_EQ(Column(0), QStringList{u"Crate"_s});
+    EXPECT_EQ(folder.Read(itemsFile), bytes);
+}
+
+TEST_F(NonInventoriedItemsTest, TrailingFragmentIsRoundedToARecordOrToNone) {
+    const QByteArray one = NonItemBytes{.description = "a"}.Record();
+    folder.Write(itemsFile, one + one.left(27));
+    items.Load();
+    EXPECT_EQ(Column(recordColumn), QStringList{u"1"_s});
+    folder.Write(itemsFile, one + one.left(51));
+    items.Load();
+    // What the file lacks reads as zero, also the upper half of a count that is cut in two.
+    EXPECT_EQ(Column(recordColumn), (QStringList{u"1"_s, u"2"_s}));
+    EXPECT_EQ(Row(2), (QStringList{u"a"_s, u"7"_s, u"0"_s, u"0"_s, u"2"_s}));
+}
+
+TEST_F(NonInventoriedItemsTest, MoreThan32767RecordsAreAnOverflow) {
+    folder.Write(itemsFile, QByteArray(32'768 * 56, ' '));
+    EXPECT_EQ(FailureOf([&] { items.Load(); }).Kind(), FailureKind::Overflow);
+    EXPECT_EQ(items.fgNonItem.DataRows(), 0);
+}
+
+TEST_F(NonInventoriedItemsTest, UnreadableFileFailsByName) {
+    Write({{.description = "a"}});
+    DropRootRights(folder);
+    ASSERT_EQ(::chmod(folder.PathOf(itemsFile).toUtf8().constData(), 0), 0);
+    EXPECT_EQ(
+        FailureOf([&] { items.Load(); }).Sentence(),
+        u"Opening NonInventoriedItems.txt for reading and writing failed: Permission denied."_s);
+}
+
+TEST_F(NonInventoriedItemsTest, ClickOnARowOpensModifyAndOnTheHeadingNothing) {
+    Write({{.description = "a"}});
+    items.Load();
+    items.fgNonItem_Click(0);
+    EXPECT_FALSE(items.enabled.modify);
+    items.fgNonItem_Click(1);
+    EXPECT_TRUE(items.enabled.modify);
+}
+
+TEST_F(NonInventoriedItemsTest, WithoutACurrentRowModifyAndSaveGoToTheGrid) {
+    Write({{.description = "a"}});
+    items.Load();
+    EXPECT_EQ(items.Modify(), ItemFocus::Grid);
+    EXPECT_FALSE(items.enabled.entry);
+    Pick(1);
+    items.Modify();
+    // The file has been emptied since, and with it the grid.
+    folder.Write(itemsFile, {});
+    items.LoadNonInventoriedItems();
+    ASSERT_EQ(items.fgNonItem.CurrentRow(), 0);
+    EXPECT_EQ(items.Save(), ItemFocus::Grid);
+    EXPECT_EQ(folder.Read(itemsFile), "");
+    EXPECT_EQ(items.entry.txtDescription, u"a"_s);
 }
 
 TEST_F(NonInventoriedItemsTest, SavedItemsBytes) {
@@ -149,6 +227,45 @@ TEST_F(NonInventoriedItemsTest, EmptyReorderFieldsAreSavedAsZero) {
     EXPECT_EQ(
         folder.Read(itemsFile),
         (NonItemBytes{.description = "Crate", .reorderAmount = 0, .reorderPoint = 0}.Record()));
+}
+
+TEST_F(NonInventoriedItemsTest, CountsAreRoundedHalfToEvenInTheFileAndTheGrid) {
+    EnterNew(u"Crate"_s);
+    items.entry.txtOnHandNon = u"2.5"_s;
+    items.entry.txtReorderAmountNon = u"3.5"_s;
+    items.entry.txtReorderAtNon = u"0.5"_s;
+    items.Save();
+    EXPECT_EQ(
+        folder.Read(itemsFile),
+        (NonItemBytes{.description = "Crate", .onHand = 2, .reorderAmount = 4, .reorderPoint = 0}
+             .Record()));
+    EXPECT_EQ(Row(1), (QStringList{u"Crate"_s, u"2"_s, u"4"_s, u"0"_s, u"1"_s}));
+}
+
+TEST_F(NonInventoriedItemsTest, SaveToAFileThatMayNotBeWrittenFailsByName) {
+    Write({{.description = "a"}});
+    items.Load();
+    EnterNew(u"Crate"_s);
+    DropRootRights(folder);
+    ASSERT_EQ(::chmod(folder.PathOf(itemsFile).toUtf8().constData(), 0444), 0);
+    const auto before = folder.Contents();
+    EXPECT_EQ(
+        FailureOf([&] { items.Save(); }).Sentence(),
+        u"Opening NonInventoriedItems.txt for reading and writing failed: Permission denied."_s);
+    EXPECT_EQ(folder.Contents(), before);
+}
+
+TEST_F(NonInventoriedItemsTest, SaveOnAFullDiskFailsAndTheOtherRecordsStay) {
+    Write({{.description = "a"}});
+    const QByteArray before = folder.Read(itemsFile);
+    items.Load();
+    EnterNew(u"Crate"_s);
+    {
+        const FullDisk full(80);
+        EXPECT_EQ(FailureOf([&] { items.Save(); }).Kind(), FailureKind::DiskFull);
+    }
+    EXPECT_TRUE(folder.Read(itemsFile).startsWith(before));
+    EXPECT_LT(folder.Read(itemsFile).size(), 2 * before.size());
 }
 
 TEST_F(NonInventoriedItemsTest, BadNumbersFailAndTheFileStays) {

@@ -2,6 +2,7 @@
 
 #include "store/Conversions.h"
 #include "support/OfficeTest.h"
+#include "support/SampleSlips.h"
 
 #include <sys/stat.h>
 
@@ -199,6 +200,18 @@ TEST_F(SalesItemListsTest, RefreshShowsAnEditedPrice) {
     items.RefreshAll();
     EXPECT_EQ(items.ProductPrices.stringList(), QStringList({u"$1,250.00"_s}));
     EXPECT_EQ(Row(1), QStringList({u""_s, u""_s, u"Sand"_s, u"$1,250.00"_s, u""_s}));
+}
+
+TEST_F(SalesItemListsTest, RefreshLeavesTheSlipsAsTheyAre) {
+    // A slip keeps the price it was written with, also when its product costs more now.
+    WriteSlip(folder, {.number = u"1"_s});
+    folder.Write(pricedFile, PricedBytes("Gravel", twelveFifty));
+    folder.Write(nonPricedFile, NonPricedBytes("Leaflet"));
+    const auto before = folder.Contents();
+    ASSERT_TRUE(before.contains(ItemName(u"1"_s)));
+    items.RefreshAll();
+    EXPECT_EQ(items.ProductPrices.stringList(), QStringList({u"$1,250.00"_s}));
+    EXPECT_EQ(folder.Contents(), before);
 }
 
 TEST_F(SalesItemListsTest, RefreshWithoutTheFileLeavesTheLists) {

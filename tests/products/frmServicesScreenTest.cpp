@@ -70,6 +70,34 @@ protected:
         Enter(u"txtOnHand"_s, u"7"_s);
     }
 
+    /// Left empty it becomes a zero, and what is typed takes the zero's place.
+    void ExpectCountReplacesAZero(const QString& name) {
+        QLineEdit* field = Field(name);
+        QTest::mouseClick(field, Qt::LeftButton);
+        Press(field, Qt::Key_Tab);
+        EXPECT_EQ(field->text(), u"0"_s) << name.toStdString();
+        Enter(name, u"5"_s);
+        EXPECT_EQ(field->text(), u"5"_s) << name.toStdString();
+        Type(field, u"0"_s);
+        EXPECT_EQ(field->text(), u"50"_s) << name.toStdString();
+        field->clear();
+        Press(field, Qt::Key_Tab);
+        EXPECT_EQ(field->text(), u"0"_s) << name.toStdString();
+    }
+
+    static void ClickHeading(const Grid* clicked) {
+        const QHeaderView* heading = clicked->horizontalHeader();
+        QTest::mouseClick(heading->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          {heading->sectionSize(0) / 2, heading->height() / 2});
+    }
+
+    static void TurnWheel(QWidget* control, int delta) {
+        const QPoint place = control->rect().center();
+        QWheelEvent wheel(place, control->mapToGlobal(place), {}, {0, delta}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(control, &wheel);
+    }
+
     QStringList Names() const {
         QStringList names;
         const GridModel& rows = office.inventoriedItems.fgItems;
@@ -371,7 +399,10 @@ TEST_F(ServicesScreen, TypingReplacesAZeroAmount) {
     ClickButton(24);
     EXPECT_EQ(Field(u"txtCharge(1)"_s)->text(), u"$0.00"_s);
     EXPECT_EQ(Field(u"txtCharge(2)"_s)->text(), u"$0.00"_s);
-    for (const QString& name : {u"txtCharge(1)"_s, u"txtCharge(2)"_s}) {
+    Enter(u"txtCost"_s, u"0"_s);
+    Press(Focus(), Qt::Key_Tab);
+    ASSERT_EQ(Field(u"txtCost"_s)->text(), u"$0.00"_s);
+    for (const QString& name : {u"txtCost"_s, u"txtCharge(1)"_s, u"txtCharge(2)"_s}) {
         Field(name)->setFocus();
         Type(Field(name), u"12"_s);
         EXPECT_EQ(Field(name)->text(), u"12"_s) << name.toStdString();
@@ -392,19 +423,15 @@ TEST_F(ServicesScreen, PastedAmountReplacesAZeroAmount) {
 TEST_F(ServicesScreen, CountFieldsReplaceAZeroAndComeBackToIt) {
     Open();
     for (const QString& name :
-         {u"txtDiscountQty"_s, u"txtOnHand"_s, u"txtReorderAmount"_s, u"txtReorderAt"_s}) {
-        QLineEdit* field = Field(name);
-        QTest::mouseClick(field, Qt::LeftButton);
-        Press(field, Qt::Key_Tab);
-        EXPECT_EQ(field->text(), u"0"_s) << name.toStdString();
-        Enter(name, u"5"_s);
-        EXPECT_EQ(field->text(), u"5"_s) << name.toStdString();
-        Type(field, u"0"_s);
-        EXPECT_EQ(field->text(), u"50"_s) << name.toStdString();
-        field->clear();
-        Press(field, Qt::Key_Tab);
-        EXPECT_EQ(field->text(), u"0"_s) << name.toStdString();
-    }
+         {u"txtDiscountQty"_s, u"txtOnHand"_s, u"txtReorderAmount"_s, u"txtReorderAt"_s})
+        ExpectCountReplacesAZero(name);
+}
+
+TEST_F(ServicesScreen, CountFieldsOfTheItemsWithoutAPriceReplaceAZeroAndComeBackToIt) {
+    Open();
+    Find<QAction>(products, u"mnuNonInventoried"_s)->trigger();
+    for (const QString& name : {u"txtOnHandNon"_s, u"txtReorderAmountNon"_s, u"txtReorderAtNon"_s})
+        ExpectCountReplacesAZero(name);
 }
 
 TEST_F(ServicesScreen, DescriptionTakesFiftyCharactersAndTheCategoryTwenty) {
@@ -446,9 +473,7 @@ TEST_F(ServicesScreen, ClickOnARowOpensModifyAndDeleteAndLeavesTheEntryAlone) {
 TEST_F(ServicesScreen, ClickOnTheHeadingOpensNothing) {
     Write({{.description = "Gravel"}});
     Open();
-    QHeaderView* heading = grid->horizontalHeader();
-    QTest::mouseClick(heading->viewport(), Qt::LeftButton, Qt::NoModifier,
-                      {heading->sectionSize(0) / 2, heading->height() / 2});
+    ClickHeading(grid);
     EXPECT_FALSE(Button(9)->isEnabled());
     EXPECT_FALSE(Button(10)->isEnabled());
 }
@@ -492,6 +517,50 @@ TEST_F(ServicesScreen, ModifyFillsTheFieldsAndClosesTheGridAndCancelOpensIt) {
     EXPECT_TRUE(grid->isEnabled());
     EXPECT_EQ(Field(u"txtDescription(1)"_s)->text(), QString());
     EXPECT_FALSE(Button(13)->isEnabled());
+}
+
+TEST_F(ServicesScreen, ReloadOpensTheGridThatModifyClosed) {
+    Write({{.description = "Gravel"}});
+    Open();
+    ClickCell(grid, 1, 0);
+    ClickButton(9);
+    ASSERT_FALSE(grid->isEnabled());
+    ClickButton(2);
+    EXPECT_TRUE(grid->isEnabled());
+    EXPECT_EQ(Field(u"txtDescription(1)"_s)->text(), u"Gravel"_s);
+}
+
+TEST_F(ServicesScreen, DownInTheCategoryGoesOnFromTheOneThatIsShown) {
+    Write({{.description = "Gravel", .category = "Coarse"},
+           {.description = "Sand", .category = "Fine"},
+           {.description = "Rocks", .category = "Huge"}});
+    Open();
+    ClickCell(grid, 2, 0);
+    ClickButton(9);
+    ASSERT_EQ(Category()->currentText(), u"Fine"_s);
+    Category()->setFocus();
+    Press(Category(), Qt::Key_Down);
+    EXPECT_EQ(Category()->currentText(), u"Huge"_s);
+}
+
+TEST_F(ServicesScreen, WheelOverAListWithoutTheFocusChangesNothing) {
+    Write({{.description = "Gravel", .category = "Coarse"},
+           {.description = "Sand", .category = "Fine"}});
+    Open();
+    auto* sortBy = Find<QComboBox>(products, u"lstSortBy"_s);
+    Button(8)->setFocus();
+    TurnWheel(Category(), -120);
+    TurnWheel(sortBy, -120);
+    EXPECT_EQ(Category()->currentText(), QString());
+    EXPECT_EQ(sortBy->currentIndex(), 0);
+    EXPECT_EQ(office.inventoriedItems.lstSortBy, 0);
+    Category()->setFocus();
+    TurnWheel(Category(), -120);
+    EXPECT_EQ(Category()->currentText(), u"Coarse"_s);
+    sortBy->setFocus();
+    TurnWheel(sortBy, -120);
+    EXPECT_EQ(sortBy->currentIndex(), 1);
+    EXPECT_EQ(office.inventoriedItems.lstSortBy, 1);
 }
 
 TEST_F(ServicesScreen, ModifiedItemIsSaved) {
@@ -621,6 +690,40 @@ TEST_F(ServicesScreen, ItemWithoutAPriceIsAddedModifiedAndItsGridClosesOnCancel)
     EXPECT_EQ(folder.Read(nonItemsFile), NonItemBytes{.description = "Crate"}.Record());
 }
 
+TEST_F(ServicesScreen, ClickOnTheHeadingOfTheItemsWithoutAPriceOpensNothing) {
+    folder.Write(nonItemsFile, NonItemBytes{.description = "Crate"}.Record());
+    Open();
+    Find<QAction>(products, u"mnuNonInventoried"_s)->trigger();
+    auto* nonGrid = Find<Grid>(products, u"fgNonItem"_s);
+    ClickHeading(nonGrid);
+    EXPECT_FALSE(Button(12)->isEnabled());
+    ClickCell(nonGrid, 1, 0);
+    EXPECT_TRUE(Button(12)->isEnabled());
+    ClickButton(16);
+    office.nonInventoriedItems.fgNonItem.SetCurrent(0, 0);
+    ClickButton(12);
+    EXPECT_FALSE(Button(17)->isEnabled());
+    EXPECT_FALSE(Field(u"txtDescription(0)"_s)->isEnabled());
+    EXPECT_EQ(Field(u"txtOnHandNon"_s)->text(), QString());
+}
+
+TEST_F(ServicesScreen, ModifiedItemWithoutAPriceThatIsGoneIsNotSaved) {
+    folder.Write(nonItemsFile, NonItemBytes{.description = "Crate"}.Record());
+    Open();
+    Find<QAction>(products, u"mnuNonInventoried"_s)->trigger();
+    auto* nonGrid = Find<Grid>(products, u"fgNonItem"_s);
+    ClickCell(nonGrid, 1, 0);
+    ClickButton(12);
+    office.nonInventoriedItems.fgNonItem.SetCurrent(0, 0);
+    const auto before = folder.Contents();
+    Enter(u"txtOnHandNon"_s, u"9"_s);
+    ClickButton(17);
+    EXPECT_EQ(Focus(), nonGrid);
+    EXPECT_EQ(folder.Contents(), before);
+    EXPECT_TRUE(Button(17)->isEnabled());
+    EXPECT_EQ(Field(u"txtDescription(0)"_s)->text(), u"Crate"_s);
+}
+
 TEST_F(ServicesScreen, ClearItemOfTheItemsWithoutAPriceClearsItsFieldsAlone) {
     Open();
     Enter(u"txtCost"_s, u"5"_s);
@@ -693,7 +796,7 @@ TEST_F(ServicesScreen, WholeScreenFitsTheSmallestDesktop) {
     EXPECT_LE(Part(u"body"_s)->minimumSizeHint().height(), Part(u"body"_s)->height());
 }
 
-TEST_F(ServicesScreen, LargestFileScrollsWithKeysAndWheelAndKeepsAUsersColumnWidth) {
+TEST_F(ServicesScreen, LargestFileScrollsWithKeysAndWheel) {
     folder.Write(itemsFile, ItemBytes{.description = "Gravel"}.Record().repeated(32'767));
     Open();
     EXPECT_EQ(office.inventoriedItems.fgItems.DataRows(), 32'767);
@@ -705,13 +808,41 @@ TEST_F(ServicesScreen, LargestFileScrollsWithKeysAndWheelAndKeepsAUsersColumnWid
     EXPECT_EQ(office.inventoriedItems.fgItems.CurrentRow(), 32'767);
     EXPECT_TRUE(grid->viewport()->rect().intersects(grid->visualRect(grid->currentIndex())));
     const int bottom = grid->verticalScrollBar()->value();
-    QWheelEvent wheel(grid->viewport()->rect().center(),
-                      grid->viewport()->mapToGlobal(grid->viewport()->rect().center()), {},
-                      {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(grid->viewport(), &wheel);
+    TurnWheel(grid->viewport(), 120);
     EXPECT_LT(grid->verticalScrollBar()->value(), bottom);
-    grid->setColumnWidth(0, 333);
-    EXPECT_EQ(grid->horizontalHeader()->sectionResizeMode(0), QHeaderView::Interactive);
-    grid->verticalScrollBar()->setValue(0);
-    EXPECT_EQ(grid->columnWidth(0), 333);
+}
+
+TEST_F(ServicesScreen, ColumnWidthThatTheUserHasSetStaysThroughASaveAndALoad) {
+    Write({{.description = "Gravel"}});
+    Open();
+    const int width = grid->columnWidth(0);
+    QWidget* heading = grid->horizontalHeader()->viewport();
+    const QPoint edge(width - 1, heading->height() / 2);
+    QTest::mousePress(heading, Qt::LeftButton, Qt::NoModifier, edge);
+    QTest::mouseMove(heading, edge + QPoint(40, 0));
+    QTest::mouseRelease(heading, Qt::LeftButton, Qt::NoModifier, edge + QPoint(40, 0));
+    const int widened = grid->columnWidth(0);
+    ASSERT_GT(widened, width);
+    const int costWidth = grid->columnWidth(2);
+    ClickButton(8);
+    EnterItem(u"Gravel from the quarry behind the hill"_s);
+    Enter(u"txtCost"_s, u"123456789012.25"_s);
+    ClickButton(13);
+    ASSERT_EQ(office.inventoriedItems.fgItems.Text(1, 2), u"$123,456,789,012.25"_s);
+    EXPECT_EQ(grid->columnWidth(0), widened);
+    EXPECT_EQ(grid->columnWidth(2), costWidth);
+    ClickButton(2);
+    EXPECT_EQ(grid->columnWidth(0), widened);
+    EXPECT_EQ(grid->columnWidth(2), costWidth);
+}
+
+TEST_F(ServicesScreen, ColumnsFollowTheirContentsUntilTheUserSetsAWidth) {
+    Write({{.description = "Gravel"}});
+    Open();
+    const int costWidth = grid->columnWidth(2);
+    ClickButton(8);
+    EnterItem(u"Sand"_s);
+    Enter(u"txtCost"_s, u"123456789012.25"_s);
+    ClickButton(13);
+    EXPECT_GT(grid->columnWidth(2), costWidth);
 }

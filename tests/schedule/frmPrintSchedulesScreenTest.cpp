@@ -573,6 +573,16 @@ TEST_F(PrintSchedulesScreen, KeysInTheGridEditTheCellAsItStands) {
     EXPECT_EQ(Cell(1, customerColumn), u"Corner Grocery"_s);
 }
 
+TEST_F(PrintSchedulesScreen, CellOfTheGridTakesASecondPointAndALeadingZero) {
+    WriteBusiness();
+    Open();
+    office.board.fgSchedule.SetText(1, slipColumn, QString());
+    ClickCell(grid, 1, slipColumn);
+    Type(grid, u"0.5.-7"_s);
+    EXPECT_EQ(Cell(1, slipColumn), u"0.5.7"_s);
+    EXPECT_EQ(user.Beeps, 0);
+}
+
 TEST_F(PrintSchedulesScreen, EnterMultipliesSlipNumberAndTimeAndMovesOn) {
     WriteBusiness();
     Open();

@@ -345,6 +345,14 @@ TEST_F(HolidayListTest, RedoOfAnEmptyListAsksTheSame) {
     EXPECT_FALSE(folder.Has(holidaysFile));
 }
 
+TEST_F(HolidayListTest, EntryOfADateIsFoundByItsTextAndNowhereWhenItIsNotListed) {
+    OpenOn("#2026-12-25#\r\n#2026-07-04 08:30:00#\r\n#2026-11-26#\r\n#2026-12-25#\r\n");
+    EXPECT_EQ(holidays.EntryOf({2026, 11, 26}).row(), 2);
+    EXPECT_EQ(holidays.EntryOf({2026, 12, 25}).row(), 0);
+    EXPECT_FALSE(holidays.EntryOf({2026, 7, 4}).isValid());
+    EXPECT_FALSE(holidays.EntryOf({2026, 7, 5}).isValid());
+}
+
 TEST_F(HolidayListTest, WorkDaysFollowTheListFromTheMomentItIsWritten) {
     office.settings.WorkWeek = 5;
     const auto nextWorkDay = [this](QDate date) {

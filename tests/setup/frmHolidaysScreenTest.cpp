@@ -21,6 +21,23 @@ const QString toMenu = u"cmdHolidays(0)"_s;
 const QString save = u"cmdHolidays(1)"_s;
 const QString redo = u"cmdHolidays(2)"_s;
 
+/// Looks at the screens and at the file at the moment of a message.
+class WatchingOperator : public ScriptedOperator {
+public:
+    Screens* Watched = nullptr;
+    const TestFolder* Folder = nullptr;
+    bool ListWasUp = false;
+    bool MenuWasUp = false;
+    QByteArray BytesThen;
+
+    Answer MsgBox(const QString& text, Buttons buttons, const QString& title) override {
+        ListWasUp = Watched->Find(holidays) && Watched->Find(holidays)->isVisible();
+        MenuWasUp = Watched->Find(menu) && Watched->Find(menu)->isVisible();
+        BytesThen = Folder->Read(holidaysFile);
+        return ScriptedOperator::MsgBox(text, buttons, title);
+    }
+};
+
 } // namespace
 
 class HolidaysScreen : public ScreenTest {
@@ -168,6 +185,43 @@ TEST_F(HolidaysScreen, SaveWritesTellsAndGoesBackToTheMenu) {
     EXPECT_EQ(screens.Find(holidays), nullptr);
 }
 
+TEST_F(HolidaysScreen, SaveTellsBehindTheWritingAndBeforeItGoesToTheMenu) {
+    WatchingOperator watcher;
+    Office watched(folder.Path(), {clock, watcher, printer, browser, pictures});
+    Screens itsScreens(watched);
+    watcher.Watched = &itsScreens;
+    watcher.Folder = &folder;
+    itsScreens.Show(holidays);
+    const Screen* screen = itsScreens.Find(holidays);
+    ClickDay(*screen->findChild<MonthView*>(u"MonthView1"_s), {2026, 3, 17});
+    watcher.ExpectMessage(u"The Holiday List has been Saved"_s);
+    QTest::mouseClick(screen->findChild<QAbstractButton*>(save), Qt::LeftButton);
+    watcher.ExpectNothingLeft();
+    EXPECT_EQ(watcher.BytesThen, "#2026-03-17#\r\n");
+    EXPECT_TRUE(watcher.ListWasUp);
+    EXPECT_FALSE(watcher.MenuWasUp);
+    EXPECT_EQ(itsScreens.Find(holidays), nullptr);
+    EXPECT_TRUE(itsScreens.Find(menu)->isVisible());
+}
+
+TEST_F(HolidaysScreen, MessagesAndBeepsComeWithPromptsAndAlarmOff) {
+    office.settings.PromptsOn = false;
+    office.settings.AlarmOn = false;
+    screens.Show(holidays);
+    ClickDay(*Calendar(), {2026, 3, 8});
+    EXPECT_EQ(user.Beeps, 1);
+    ClickDay(*Calendar(), {2026, 3, 17});
+    EXPECT_EQ(user.Beeps, 1);
+    ClickDay(*Calendar(), {2026, 3, 17});
+    EXPECT_EQ(user.Beeps, 2);
+    user.ExpectQuestion(u"This will DELETE all Holidays"_s, u"Clear Holiday List"_s, Answer::Yes);
+    Click(holidays, redo);
+    EXPECT_EQ(Entries(), QStringList());
+    user.ExpectMessage(u"The Holiday List has been Saved"_s);
+    Click(holidays, save);
+    EXPECT_EQ(folder.Read(holidaysFile), "");
+}
+
 TEST_F(HolidaysScreen, MenuLeavesTheFileWithoutTheClickedDateAndAsksNothing) {
     ShowWith("#2026-12-25#\r\n");
     ClickDay(*Calendar(), {2026, 3, 17});
@@ -237,6 +291,27 @@ TEST_F(HolidaysScreen, NewestDateIsScrolledIntoSight) {
     ClickDay(*Calendar(), {2026, 3, 17});
     const QRect newest = List()->visualRect(List()->model()->index(200, 0));
     EXPECT_TRUE(List()->viewport()->rect().contains(newest));
+}
+
+TEST_F(HolidaysScreen, DateThatIsListedAlreadyIsScrolledIntoSight) {
+    QByteArray bytes;
+    for (int i = 0; i < 200; ++i)
+        bytes += QDate(2026, 4, 1).addDays(i).toString(u"'#'yyyy-MM-dd'#'").toLatin1() + "\r\n";
+    ShowWith(bytes);
+    List()->scrollToBottom();
+    const auto isInSight = [this](int row) {
+        return List()->viewport()->rect().contains(
+            List()->visualRect(List()->model()->index(row, 0)));
+    };
+    ASSERT_FALSE(isInSight(2));
+    ClickDay(*Calendar(), {2026, 4, 3});
+    EXPECT_EQ(user.Beeps, 1);
+    EXPECT_TRUE(isInSight(2));
+    // A day that can't be listed leaves the list where it is.
+    Calendar()->setCurrentPage(2026, 3);
+    ClickDay(*Calendar(), {2026, 3, 2});
+    EXPECT_EQ(user.Beeps, 2);
+    EXPECT_TRUE(isInSight(2));
 }
 
 TEST_F(HolidaysScreen, LineThatIsNoDateEndsInAFailureThatNamesTheFile) {

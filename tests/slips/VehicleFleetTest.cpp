@@ -643,6 +643,24 @@ TEST_F(VehicleFleetTest, CutVehiclesFileIsWrittenWholeAgain) {
     EXPECT_EQ(folder.Read(vehiclesFile), truck);
 }
 
+TEST_F(VehicleFleetTest, UnitOfACutVehicleReachesTheUnitsWithoutWhatIsMissing) {
+    const QByteArray truck = VehicleBytes("Truck", "1", trueBytes, "lbs", "N/A");
+    folder.Write(capacityFile, "\"lbs\"\r\n");
+    // Cut within the unit, behind its fourth letter and a blank.
+    folder.Write(vehiclesFile,
+                 (truck + VehicleBytes("Van", "7", trueBytes, "Kegs", "N/A")).left(137 + 92 + 5));
+    fleet.Load();
+    EXPECT_EQ(fleet.CapacityUnits.stringList(), (QStringList{u"lbs"_s, u"Kegs"_s}));
+    fleet.WriteFleet();
+    EXPECT_EQ(folder.Read(capacityFile), "\"lbs\"\r\n\"Kegs\"\r\n");
+    // Cut before the unit: it is a blank one, like that of a vehicle with one product.
+    folder.Write(vehiclesFile,
+                 (truck + VehicleBytes("Van", "7", trueBytes, "Kegs", "N/A")).left(137 + 80));
+    fleet.Load();
+    fleet.WriteFleet();
+    EXPECT_EQ(folder.Read(capacityFile), "\"lbs\"\r\n\"Kegs\"\r\n\"\"\r\n");
+}
+
 TEST_F(VehicleFleetTest, MoreThan255VehiclesAreNotWrittenAndNothingIsDeleted) {
     folder.Write(vehiclesFile, VehicleBytes("T", "1", trueBytes, "lbs", "N/A").repeated(255));
     folder.Write(capacityFile, "\"lbs\"\r\n");

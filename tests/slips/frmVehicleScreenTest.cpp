@@ -86,6 +86,21 @@ protected:
         Type(Capacity(), capacity);
         Type(Units(), unit);
     }
+    /// What the end of the program does: the screens go, then the safety copies are made.
+    void EndProgram() {
+        screens.Destroy(vehicles);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        office.disk.BackupDataFiles();
+    }
+    /// Which of "Modify Vehicle Specs" and "Delete Vehicle" can be used, as letters.
+    QString OpenButtons() {
+        return (Button(9)->isEnabled() ? u"m"_s : QString()) +
+               (Button(10)->isEnabled() ? u"d"_s : QString());
+    }
+    void DeletePicked() {
+        user.ExpectQuestion(deleteQuestion, deleteTitle, Answer::Yes);
+        ClickButton(10);
+    }
     void ExpectFields(const QStringList& fields) { EXPECT_EQ(Fields(), fields); }
 
     const QStringList emptyFields = {u""_s, u""_s, u""_s, u"single"_s, u""_s};
@@ -182,10 +197,14 @@ TEST_F(VehicleScreen, CloseBoxWritesNothing) {
     ClickButton(8);
     TypeMixed(u"Van 9"_s, u"1500"_s, u"Kegs"_s);
     ClickButton(13);
-    const auto before = folder.Contents();
+    auto expected = folder.Contents();
     CloseByUser(vehicles);
     EXPECT_EQ(exitRequests, 1);
-    EXPECT_EQ(folder.Contents(), before);
+    EXPECT_EQ(folder.Contents(), expected);
+    EndProgram();
+    // The vehicles are not among what is copied at the end.
+    expected[u"Backup/Phone.txt"_s] = expected.at(u"Phone.txt"_s);
+    EXPECT_EQ(folder.Contents(), expected);
 }
 
 TEST_F(VehicleScreen, UnitTypedInOtherCaseStaysAsTyped) {
@@ -312,6 +331,57 @@ TEST_F(VehicleScreen, ArrowKeysInTheGridKeepTheEntryAndEnterPicksTheRow) {
     ExpectFields({u"Van 2"_s, u"40"_s, u"Kegs"_s, u"mixed"_s, u""_s});
 }
 
+TEST_F(VehicleScreen, EntryIsSavedToTheRowThatAnArrowKeyHasGoneToAfterThePick) {
+    OpenFleet();
+    ClickCell(grid, 1, 0);
+    Press(grid, Qt::Key_Down);
+    Press(grid, Qt::Key_Down);
+    ExpectFields({u"Flatbed Truck"_s, u"12000"_s, u"lbs"_s, u"mixed"_s, u""_s});
+    ClickButton(13);
+    EXPECT_EQ(Row(1)[0], u"Flatbed Truck"_s);
+    EXPECT_EQ(Row(2)[0], u"Tanker"_s);
+    EXPECT_EQ(Row(3), (QStringList{u"Flatbed Truck"_s, u"12000"_s, u"lbs"_s, u"True"_s, u"N/A"_s}));
+}
+
+TEST_F(VehicleScreen, WholeScreenFitsTheSmallestDesktop) {
+    OpenFleet();
+    Screen* screen = screens.Find(vehicles);
+    Find<QAction>(vehicles, u"mnuInstructions"_s)->trigger();
+    // What the desktop's own bars and the window's frame leave.
+    const QSize room(1024 - 60, 768 - 60);
+    EXPECT_LE(screen->minimumSizeHint().width(), room.width());
+    EXPECT_LE(screen->minimumSizeHint().height(), room.height());
+    screen->resize(room);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(screen->size(), room);
+    const auto* body = Find<QWidget>(vehicles, u"body"_s);
+    EXPECT_LE(body->minimumSizeHint().width(), body->width());
+    EXPECT_LE(body->minimumSizeHint().height(), body->height());
+    for (const int index : {0, 1, 8, 9, 10, 11, 13, 14}) {
+        const QPushButton* button = Button(index);
+        const QRect place(button->mapTo(screen, QPoint()), button->size());
+        EXPECT_TRUE(screen->rect().contains(place)) << index;
+        EXPECT_GE(place.width(), button->minimumSizeHint().width()) << index;
+    }
+}
+
+TEST_F(VehicleScreen, MessagesAndBeepsComeWithPromptsAndAlarmOff) {
+    office.settings.PromptsOn = false;
+    office.settings.AlarmOn = false;
+    OpenFleet();
+    ClickButton(8);
+    user.ExpectMessage(u"Enter a description of the Vehicle"_s);
+    ClickButton(13);
+    Type(Description(), u"Bus"_s);
+    user.ExpectMessage(u"Select the product that loads to this Vehicle"_s);
+    ClickButton(13);
+    Type(Capacity(), u"x"_s);
+    EXPECT_EQ(user.Beeps, 1);
+    ClickCell(grid, 2, 0);
+    DeletePicked();
+    EXPECT_EQ(office.fleet.fgItems.DataRows(), 2);
+}
+
 TEST_F(VehicleScreen, ModifyButtonFillsTheFieldsOfTheCurrentRowAgain) {
     OpenFleet();
     ClickCell(grid, 3, 0);
@@ -383,6 +453,74 @@ TEST_F(VehicleScreen, DeletingTheLastVehicleRemovesTheFile) {
     screens.Show(vehicles);
     EXPECT_EQ(OpenFields(), u"dcump"_s);
     ExpectFields(emptyFields);
+}
+
+TEST_F(VehicleScreen, FieldsStayOpenAndFilledJustAfterTheLastVehicleIsDeleted) {
+    OpenWith(VehicleBytes("Van 2", "40", trueBytes, "Kegs", "N/A"));
+    ClickCell(grid, 1, 0);
+    DeletePicked();
+    // There is no file to read back, and it is the reading that clears and closes them.
+    ExpectFields({u"Van 2"_s, u"40"_s, u"Kegs"_s, u"mixed"_s, u""_s});
+    EXPECT_EQ(OpenFields(), u"dcum"_s);
+    EXPECT_EQ(OpenButtons(), u"m"_s);
+    EXPECT_EQ(Focused(), grid);
+    ClickButton(13);
+    EXPECT_EQ(office.fleet.fgItems.DataRows(), 1);
+    EXPECT_EQ(Row(1), (QStringList{u"Van 2"_s, u"40"_s, u"Kegs"_s, u"True"_s, u"N/A"_s}));
+}
+
+TEST_F(VehicleScreen, VehicleAddedAfterTheLastWasDeletedIsWrittenAndTheMenuGoesOnToCustomers) {
+    WriteMasterFiles();
+    folder.Remove(u"CustomerData.txt"_s);
+    OpenWith(VehicleBytes("Van 2", "40", trueBytes, "Kegs", "N/A"));
+    ClickCell(grid, 1, 0);
+    DeletePicked();
+    ASSERT_FALSE(folder.Has(u"Vehicles.txt"_s));
+    ClickButton(8);
+    TypeMixed(u"Bus"_s, u"7"_s, u"lbs"_s);
+    ClickButton(13);
+    ClickButton(0);
+    EXPECT_EQ(folder.Read(u"Vehicles.txt"_s), VehicleBytes("Bus", "7", trueBytes, "lbs", "N/A"));
+    EXPECT_EQ(office.fleet.Names.stringList(), QStringList{u"Bus"_s});
+    EXPECT_FALSE(IsShown(vehicles));
+    EXPECT_TRUE(Find<QWidget>(ScreenName::frmStartup, u"fraNoCustomerFound"_s)->isVisible());
+}
+
+TEST_F(VehicleScreen, MenuAsksForAVehicleOnceTheLastIsDeleted) {
+    WriteMasterFiles();
+    OpenWith(VehicleBytes("Van 2", "40", trueBytes, "Kegs", "N/A"));
+    ClickCell(grid, 1, 0);
+    DeletePicked();
+    user.ExpectMessage(u"Create at least One Delivery Vehicle Now"_s);
+    ClickButton(0);
+    EXPECT_TRUE(IsShown(vehicles));
+    EXPECT_FALSE(folder.Has(u"Vehicles.txt"_s));
+    ExpectFields(emptyFields);
+    EXPECT_EQ(OpenFields(), u"dcump"_s);
+    EXPECT_EQ(Focused(), Description());
+}
+
+TEST_F(VehicleScreen, ModifyAndDeleteStayAsTheyAreThroughAddNewAndSave) {
+    OpenFleet();
+    ClickButton(8);
+    EXPECT_EQ(OpenButtons(), QString());
+    TypeMixed(u"Bus"_s, u"7"_s, u"lbs"_s);
+    ClickButton(13);
+    EXPECT_EQ(OpenButtons(), QString());
+    ClickCell(grid, 4, 0);
+    EXPECT_EQ(OpenButtons(), u"md"_s);
+    ClickButton(8);
+    EXPECT_EQ(OpenButtons(), u"md"_s);
+    TypeMixed(u"Bus 2"_s, u"7"_s, u"lbs"_s);
+    ClickButton(13);
+    EXPECT_EQ(OpenButtons(), u"md"_s);
+    // The saved vehicle is the current one, so it is the one that these mean.
+    ClickButton(9);
+    ExpectFields({u"Bus 2"_s, u"7"_s, u"lbs"_s, u"mixed"_s, u""_s});
+    DeletePicked();
+    EXPECT_EQ(office.fleet.Names.stringList(),
+              (QStringList{u"Flatbed Truck"_s, u"Tanker"_s, u"Van 2"_s, u"Bus"_s}));
+    EXPECT_EQ(OpenButtons(), QString());
 }
 
 TEST_F(VehicleScreen, CapacityTakesANumberAndRefusesTheRestWithABeep) {

@@ -1,6 +1,7 @@
 #include "platform/FolderLock.h"
 #include "startup/StartUp.h"
 #include "support/SampleSlips.h"
+#include "support/SampleVehicles.h"
 #include "support/ScreenTest.h"
 
 using namespace Qt::StringLiterals;
@@ -106,11 +107,12 @@ TEST_F(StartUpSequence, SettingsFileOverrulesTheOtherTwo) {
 }
 
 TEST_F(StartUpSequence, VehiclesAndItemsAreThereWhenTheMenuComes) {
-    WriteVehicles(office, {u"Van 2"_s});
+    folder.Write(u"Vehicles.txt"_s, VehicleBytes("Van 2", "40", trueBytes, "Kegs", "N/A"));
     folder.Write(u"NXInventoriedItems.txt"_s, PricedItemBytes("Milk"));
     folder.Write(u"NonInventoriedItems.txt"_s,
                  NonPricedItemBytes("Leaflet") + NonPricedItemBytes("Crate"));
     ExpectNoCustomers();
+    ASSERT_EQ(office.fleet.Names.rowCount(), 0);
     Main(office, screens);
     EXPECT_EQ(office.fleet.Names.stringList(), QStringList{u"Van 2"_s});
     EXPECT_EQ(office.items.ProductNames.stringList(), QStringList{u"Milk"_s});
