@@ -15,6 +15,14 @@ bool IsUsaStyle(const LiveSettings& settings) {
     return settings.cmdAddress == usaStyle;
 }
 
+void DeriveAddressStyle(LiveSettings& settings) {
+    const bool isDecided = !settings.BusinessData[0].isEmpty() ||
+                           settings.BusinessData[5].isEmpty() ||
+                           IsNumeric(settings.BusinessData[5]);
+    if (isDecided)
+        ApplyAddressStyle(settings);
+}
+
 void ApplyAddressStyle(LiveSettings& settings) {
     const QString& companyName = settings.BusinessData[0];
     const QString& postalCode = settings.BusinessData[5];

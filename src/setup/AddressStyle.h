@@ -7,6 +7,11 @@
 
 bool IsUsaStyle(const LiveSettings& settings);
 
+/// At the start of the program: the style that the business data decides, so that an international
+/// business does not see its customers in the USA style until somebody opens the setup screen.
+/// Where nothing decides, the style stays.
+void DeriveAddressStyle(LiveSettings& settings);
+
 /// At each showing of the setup screen. A company without a postal code has the international
 /// style, all others the USA style. With no name and a postal code that is no number nothing
 /// decides, and the style flips.

@@ -114,10 +114,12 @@ Card* SetupLogoTab::MakeAdjustedCard() {
     printedSize = SoftLabel({});
     printedSize->setAlignment(Qt::AlignCenter);
     auto* sizes = new Form;
-    sizes->AddRow(u"Width"_s, MakeSize(u"UpDown3"_s, u"width"_s, &CompanyLogo::WidthSmaller,
-                                       &CompanyLogo::WidthLarger));
-    sizes->AddRow(u"Height"_s, MakeSize(u"UpDown2"_s, u"height"_s, &CompanyLogo::HeightSmaller,
-                                        &CompanyLogo::HeightLarger));
+    sizes->AddRow(u"Width"_s, MakeSize(
+                                  u"UpDown3"_s, u"width"_s, [this] { logo.WidthSmaller(); },
+                                  [this] { logo.WidthLarger(); }));
+    sizes->AddRow(u"Height"_s, MakeSize(
+                                   u"UpDown2"_s, u"height"_s, [this] { logo.HeightSmaller(); },
+                                   [this] { logo.HeightLarger(); }));
     auto* steps = new QHBoxLayout;
     steps->addLayout(sizes);
     steps->addStretch(1);
@@ -135,15 +137,15 @@ Card* SetupLogoTab::MakeAdjustedCard() {
     return card;
 }
 
-UpDown* SetupLogoTab::MakeSize(const QString& name, const QString& what, Step smaller,
-                               Step larger) {
+UpDown* SetupLogoTab::MakeSize(const QString& name, const QString& what, const Step& smaller,
+                               const Step& larger) {
     auto* steps = new UpDown(name, u"Smaller "_s + what, u"Larger "_s + what);
     connect(steps, &UpDown::DownClick, this, [this, smaller] {
-        (logo.*smaller)();
+        smaller();
         ShowAdjusted();
     });
     connect(steps, &UpDown::UpClick, this, [this, larger] {
-        (logo.*larger)();
+        larger();
         ShowAdjusted();
     });
     return steps;

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 
 class Card;
 class QLabel;
@@ -37,8 +38,9 @@ private:
     Card* MakeAdjustedCard();
     Card* MakeGuideCard();
     QPushButton* MakeButton(Button index, const QString& caption, const QString& tip = {});
-    using Step = void (CompanyLogo::*)();
-    UpDown* MakeSize(const QString& name, const QString& what, Step smaller, Step larger);
+    using Step = std::function<void()>;
+    UpDown* MakeSize(const QString& name, const QString& what, const Step& smaller,
+                     const Step& larger);
     void ShowLogo();
     void ShowAdjusted();
 

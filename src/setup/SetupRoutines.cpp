@@ -1,5 +1,6 @@
 #include "setup/SetupRoutines.h"
 
+#include "setup/AddressStyle.h"
 #include "store/Conversions.h"
 
 using namespace Qt::StringLiterals;
@@ -10,6 +11,7 @@ SetupRoutines::SetupRoutines(SettingsStore& settingsStore, Modem& theModem,
 
 void SetupRoutines::LoadAll() {
     store.LoadBusinessData();
+    DeriveAddressStyle(settings);
     modem.SetUpModem();
     store.LoadPrompts();
     store.LoadPrintColors();

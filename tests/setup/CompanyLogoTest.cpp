@@ -131,14 +131,14 @@ TEST_F(CompanyLogoTest, StoredSizeIsLimitedAt2880) {
 }
 
 TEST_F(CompanyLogoTest, StoredSizeAbove1800SurvivesALoadAndTheFirstClickWrapsIt) {
-    const std::vector<std::pair<void (CompanyLogo::*)(), float>> widths = {
-        {&CompanyLogo::WidthLarger, 360.0F}, {&CompanyLogo::WidthSmaller, 1950.0F}};
+    const std::vector<std::pair<std::function<void()>, float>> widths = {
+        {[this] { logo.WidthLarger(); }, 360.0F}, {[this] { logo.WidthSmaller(); }, 1950.0F}};
     for (const auto& [step, expected] : widths) {
         folder.Write(sizeFile, "2000,2500\r\n");
         Restart();
         EXPECT_EQ(live.logoWidth, 2000);
         EXPECT_EQ(live.logoHeight, 2500);
-        (logo.*step)();
+        step();
         EXPECT_EQ(live.logoWidth, expected);
         EXPECT_EQ(live.logoHeight, 2500);
     }
@@ -330,11 +330,13 @@ TEST_F(CompanyLogoTest, SaveOfTheSetupScreenWritesTheSizeWhenThereIsAPicture) {
 TEST_F(CompanyLogoTest, SaveOfTheDeliveryScreenAndStepsWriteNoSize) {
     Find(wide);
     office.settingsStore.SaveAppSettings();
-    for (const auto step :
-         {&CompanyLogo::WidthSmaller, &CompanyLogo::WidthLarger, &CompanyLogo::HeightSmaller,
-          &CompanyLogo::HeightLarger, &CompanyLogo::MakeWidthEqualHeight,
-          &CompanyLogo::MakeHeightEqualWidth, &CompanyLogo::RestoreSize})
-        (logo.*step)();
+    logo.WidthSmaller();
+    logo.WidthLarger();
+    logo.HeightSmaller();
+    logo.HeightLarger();
+    logo.MakeWidthEqualHeight();
+    logo.MakeHeightEqualWidth();
+    logo.RestoreSize();
     EXPECT_FALSE(folder.Has(sizeFile));
 }
 

@@ -265,3 +265,21 @@ TEST_F(SetupRoutinesTest, FullDiskAmidASaveFailsByNameAndLeavesTheLaterFiles) {
                 << SavedFiles()[i].toStdString() << " when " << row.name.toStdString() << " fails";
     }
 }
+
+TEST_F(SetupRoutinesTest, InternationalBusinessHasItsStyleFromTheStart) {
+    folder.Write(u"MyBusinessData.txt"_s,
+                 "\"Molkerei\",\"Weg 1\",\"\",\"01067 Dresden\",\"Sachsen\",\"\",\"0351 1\",\"\","
+                 "\"\"\r\n");
+    office.setup.LoadAll();
+    EXPECT_EQ(office.settings.cmdAddress, u"International Style Address"_s);
+    office.setup.LoadAll();
+    EXPECT_EQ(office.settings.cmdAddress, u"International Style Address"_s);
+}
+
+TEST_F(SetupRoutinesTest, StyleThatNothingDecidesIsTheUsaStyleAtTheStart) {
+    folder.Write(u"MyBusinessData.txt"_s,
+                 "\"\",\"\",\"\",\"\",\"\",\"SW1A 1AA\",\"\",\"\",\"\"\r\n");
+    office.setup.LoadAll();
+    EXPECT_EQ(office.settings.cmdAddress, u"USA Style Address"_s);
+    EXPECT_EQ(office.settings.txtBusiness[5], u"SW1A 1AA"_s);
+}
