@@ -138,16 +138,16 @@ QByteArray DrawingWith(const QByteArray& inside, const QByteArray& before = {}) 
            inside + "</svg>\n";
 }
 
-/// Two red dots, stretched over the right half of the drawing above.
-QByteArray DataImage() {
-    QImage dots(1, 2, QImage::Format_RGB32);
+/// Red dots of a kind, stretched over the right half of the drawing above.
+QByteArray DataImage(const QByteArray& kind = "png") {
+    QImage dots(8, 8, QImage::Format_RGB32);
     dots.fill(red);
-    QByteArray png;
-    QBuffer buffer(&png);
-    EXPECT_TRUE(dots.save(&buffer, "png"));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    EXPECT_TRUE(dots.save(&buffer, kind.constData()));
     return "<image x=\"50\" y=\"0\" width=\"50\" height=\"50\" preserveAspectRatio=\"none\" "
-           "xlink:href=\"data:image/png;base64," +
-           png.toBase64() + "\"/>\n";
+           "xlink:href=\"data:image/" +
+           kind + ";base64," + bytes.toBase64() + "\"/>\n";
 }
 
 /// A PNG of one bit, or of four times sixteen, for a dot; its rows are as given.
@@ -464,6 +464,10 @@ TEST_F(DesktopPicturesTest, DrawingWithAnImageOfItsOwnIsShown) {
     EXPECT_EQ(picture.Width, 1440);
     EXPECT_EQ(picture.Image->pixel(200, 200), blue);
     EXPECT_EQ(picture.Image->pixel(600, 200), red);
+    ConvertTo(DrawingWith(DataImage("jpg")));
+    const QColor photo = LoadBytes(u"photo.emf"_s, MetafileBytes()).Image->pixelColor(600, 200);
+    EXPECT_GT(photo.red(), 240);
+    EXPECT_LT(photo.green() + photo.blue(), 20);
 }
 
 TEST_F(DesktopPicturesTest, DrawingMayHoldFourImagesAndNoMore) {
@@ -480,6 +484,43 @@ TEST_F(DesktopPicturesTest, DrawingThatNamesAFileIsRefusedWithoutOpeningIt) {
     ExpectDrawingRefused(DrawingWith("<image xlink:href='file:" + pipe + "'" + place));
     ExpectDrawingRefused(DrawingWith("<image xlink:href\n = \n'" + pipe + "'" + place));
     ExpectDrawingRefused(DrawingWith(DataImage() + "<image xlink:href='" + pipe + "'" + place));
+}
+
+TEST_F(DesktopPicturesTest, DrawingInsideADrawingIsRefused) {
+    const QByteArray pipe = Pipe();
+    const QByteArray inner =
+        DrawingWith("<image xlink:href=\"" + pipe + "\" width=\"9\" height=\"9\"/>");
+    const auto image = [](const QByteArray& link) {
+        return DrawingWith("<image width=\"9\" height=\"9\" xlink:href=\"" + link + "\"/>");
+    };
+    ExpectDrawingRefused(image("data:image/svg+xml;base64," + inner.toBase64()));
+    // What the bytes are counts, not what they are said to be.
+    ExpectDrawingRefused(image("data:image/png;base64," + inner.toBase64()));
+    ExpectDrawingRefused(image("data:image/png;base64,iVBORw0KGgo=;base64," + inner.toBase64()));
+    ExpectDrawingRefused(
+        image("data:image/png;base64,iVBORw0KGgo=;&#98;ase64," + inner.toBase64()));
+}
+
+TEST_F(DesktopPicturesTest, BytesThatBeginAsAPictureOfDotsAreNotReadAsADrawing) {
+    const QByteArray inner =
+        DrawingWith("<image xlink:href=\"" + Pipe() + "\" width=\"9\" height=\"9\"/>");
+    const std::pair<QByteArray, QByteArray> beginnings[] = {
+        {"png", QByteArray::fromHex("89504e470d0a1a0a0000000d49484452")},
+        {"jpg", QByteArray::fromHex("ffd8ff")}};
+    for (const auto& [kind, beginning] : beginnings) {
+        ConvertTo(DrawingWith("<image width=\"9\" height=\"9\" xlink:href=\"data:image/" + kind +
+                              ";base64," + (beginning + inner).toBase64() + "\"/>"));
+        QElapsedTimer timer;
+        timer.start();
+        EXPECT_EQ(LoadBytes(u"logo.emf"_s, MetafileBytes()).Image->pixel(200, 200), blue);
+        EXPECT_LT(timer.elapsed(), quickly);
+    }
+}
+
+TEST_F(DesktopPicturesTest, ImagesCountWhateverTheirPrefix) {
+    QByteArray images = DataImage().repeated(5);
+    images.replace("<image", "<s:image xmlns:s=\"http://www.w3.org/2000/svg\"");
+    ExpectDrawingRefused(DrawingWith(images));
 }
 
 TEST_F(DesktopPicturesTest, DrawingThatUsesAPartOfItselfIsRefused) {
