@@ -10,6 +10,7 @@
 #include <QProcess>
 #include <QSvgRenderer>
 #include <QTemporaryDir>
+#include <QXmlStreamReader>
 #include <QtEndian>
 
 #include <algorithm>
@@ -127,19 +128,35 @@ QByteArray ConvertedMetafile(const QString& path) {
     return file.readAll();
 }
 
+/// One of the two kinds of picture that the converter puts into a drawing. What its bytes are
+/// counts, not what they are said to be: they could be a drawing again, which the toolkit would
+/// read as well.
+bool IsPictureOfDots(QStringView link) {
+    const bool isPng = link.startsWith(u"data:image/png;base64,iVBORw0KGgo");
+    const bool isJpeg = link.startsWith(u"data:image/jpg;base64,/9j/");
+    return (isPng || isJpeg) && link.count(u"base64,") == 1;
+}
+
 /// The converter passes on what stands in a metafile's texts, so a drawing can hold anything: it
-/// may name no file, and no part of itself again and again.
+/// may name no file, and no part of itself again and again. It is read as the toolkit reads it, so
+/// that no way of writing a name hides it.
 bool IsHarmless(const QByteArray& drawing) {
-    const QByteArray words = drawing.toLower();
-    qsizetype place = 0;
-    while ((place = words.indexOf("href", place)) >= 0) {
-        place = words.indexOf('=', place) + 1;
-        while (place > 0 && place < words.size() && words[place] <= ' ')
-            ++place;
-        if (place == 0 || !words.sliced(std::min(place + 1, words.size())).startsWith("data:"))
+    QXmlStreamReader reader(drawing);
+    int images = 0;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (!reader.entityDeclarations().isEmpty())
             return false;
+        if (!reader.isStartElement())
+            continue;
+        if (reader.name() == u"image" && ++images > mostImagesInDrawing)
+            return false;
+        for (const QXmlStreamAttribute& attribute : reader.attributes()) {
+            if (attribute.name() == u"href" && !IsPictureOfDots(attribute.value()))
+                return false;
+        }
     }
-    return words.count("<image") <= mostImagesInDrawing && !words.contains("<!entity");
+    return !reader.hasError();
 }
 
 Picture LoadMetafile(const QString& path, QSizeF dots) {

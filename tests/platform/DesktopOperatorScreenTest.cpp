@@ -8,8 +8,10 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QInputDialog>
 #include <QLineEdit>
 #include <QListView>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -201,4 +203,121 @@ TEST(FontDialogTest, CancelGivesNothing) {
         ClickButton(dialog, QDialogButtonBox::Cancel);
     });
     EXPECT_EQ(user.AskForFont(u"DejaVu Sans"_s), std::nullopt);
+}
+
+// Messages.
+
+namespace {
+
+const QString question = u"Delete <b>all</b> of it?"_s;
+
+Answer AnswerAt(const std::function<void(QMessageBox&)>& act) {
+    DesktopOperator user;
+    bool isAsked = false;
+    AtTheDialog<QMessageBox>([&](QMessageBox& box) {
+        isAsked = true;
+        act(box);
+        EXPECT_FALSE(box.isVisible());
+    });
+    const Answer answer = user.MsgBox(question, Buttons::YesNo, u"Delete"_s);
+    EXPECT_TRUE(isAsked);
+    return answer;
+}
+
+} // namespace
+
+TEST(MessageTest, QuestionIsAnsweredByItsTwoButtons) {
+    EXPECT_EQ(AnswerAt([](QMessageBox& box) {
+                  EXPECT_EQ(box.windowTitle(), u"Delete"_s);
+                  EXPECT_EQ(box.text(), question);
+                  EXPECT_EQ(box.textFormat(), Qt::PlainText);
+                  EXPECT_EQ(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
+                  QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+              }),
+              Answer::Yes);
+    EXPECT_EQ(AnswerAt([](QMessageBox& box) {
+                  QTest::mouseClick(box.button(QMessageBox::No), Qt::LeftButton);
+              }),
+              Answer::No);
+}
+
+TEST(MessageTest, QuestionIsAnsweredNoByReturnAndSpacePressedWithoutLooking) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
+        EXPECT_EQ(AnswerAt([key](QMessageBox& box) {
+                      EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
+                      EXPECT_EQ(box.focusWidget(), box.button(QMessageBox::No));
+                      QTest::keyClick(box.focusWidget(), key);
+                  }),
+                  Answer::No)
+            << key;
+}
+
+TEST(MessageTest, QuestionIsAnsweredNoByEscapeFromEitherButton) {
+    for (const auto button : {QMessageBox::Yes, QMessageBox::No})
+        EXPECT_EQ(AnswerAt([button](QMessageBox& box) {
+                      box.button(button)->setFocus();
+                      QTest::keyClick(box.focusWidget(), Qt::Key_Escape);
+                  }),
+                  Answer::No);
+}
+
+TEST(MessageTest, MessageHasAnOkWhichReturnAndEscapePressToo) {
+    DesktopOperator user;
+    const std::function<void(QMessageBox&)> ways[] = {
+        [](QMessageBox& box) { QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton); },
+        [](QMessageBox& box) { QTest::keyClick(box.focusWidget(), Qt::Key_Return); },
+        [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }};
+    for (const auto& way : ways) {
+        int shown = 0;
+        AtTheDialog<QMessageBox>([&](QMessageBox& box) {
+            ++shown;
+            EXPECT_EQ(box.text(), u"Stored"_s);
+            EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+            // The program's own title stands for an empty one.
+            EXPECT_EQ(box.windowTitle(), u"Tessel Delivery"_s);
+            way(box);
+            EXPECT_FALSE(box.isVisible());
+        });
+        EXPECT_EQ(user.MsgBox(u"Stored"_s, Buttons::Ok, {}), Answer::Ok);
+        EXPECT_EQ(shown, 1);
+    }
+}
+
+TEST(InputTest, OkGivesTheTextTypedOverTheProposal) {
+    DesktopOperator user;
+    AtTheDialog<QInputDialog>([](QInputDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), u"Hide"_s);
+        EXPECT_EQ(dialog.labelText(), u"Which one?"_s);
+        auto* field = dialog.findChild<QLineEdit*>();
+        EXPECT_EQ(field->text(), u"Van 2"_s);
+        QTest::keyClicks(field, u"Van 7"_s);
+        ClickButton(dialog, QDialogButtonBox::Ok);
+    });
+    EXPECT_EQ(user.InputBox(u"Which one?"_s, u"Hide"_s, u"Van 2"_s), u"Van 7"_s);
+}
+
+TEST(InputTest, ReturnGivesTheProposalAndAnEmptyTextIsATextToo) {
+    DesktopOperator user;
+    AtTheDialog<QInputDialog>([](QInputDialog& dialog) {
+        QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+    });
+    EXPECT_EQ(user.InputBox(u"Which one?"_s, {}, u"Van 2"_s), u"Van 2"_s);
+    AtTheDialog<QInputDialog>([](QInputDialog& dialog) {
+        QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Delete);
+        ClickButton(dialog, QDialogButtonBox::Ok);
+    });
+    EXPECT_EQ(user.InputBox(u"Which one?"_s, {}, u"Van 2"_s), QString());
+}
+
+TEST(InputTest, CancelAndEscapeGiveNothing) {
+    DesktopOperator user;
+    AtTheDialog<QInputDialog>([](QInputDialog& dialog) {
+        QTest::keyClicks(dialog.findChild<QLineEdit*>(), u"Van 7"_s);
+        ClickButton(dialog, QDialogButtonBox::Cancel);
+    });
+    EXPECT_EQ(user.InputBox(u"Which one?"_s, {}, u"Van 2"_s), std::nullopt);
+    AtTheDialog<QInputDialog>([](QInputDialog& dialog) {
+        QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Escape);
+    });
+    EXPECT_EQ(user.InputBox(u"Which one?"_s, {}, u"Van 2"_s), std::nullopt);
 }

@@ -2,6 +2,7 @@
 
 #include "support/OfficeTest.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -92,19 +93,61 @@ QByteArray MetafileBytes(const MetafileHeader& said = {}) {
            Number(0, 2) + Longs({0, 0, 0}) + Longs({3000, 3000, 254, 254}) + records;
 }
 
-/// One part of a PNG file, with its check sum.
-QByteArray PngPart(const QByteArray& name, const QByteArray& data) {
-    const QByteArray checked = name + data;
+/// The check sum of PNG and gzip files.
+quint32 CheckSum(const QByteArray& checked) {
     quint32 sum = 0xffffffff;
     for (const char byte : checked) {
         sum ^= quint8(byte);
         for (int bit = 0; bit < 8; ++bit)
             sum = sum >> 1 ^ ((sum & 1) != 0 ? 0xedb88320 : 0);
     }
+    return ~sum;
+}
+
+/// One part of a PNG file, with its check sum.
+QByteArray PngPart(const QByteArray& name, const QByteArray& data) {
+    const QByteArray checked = name + data;
     QByteArray numbers(8, '\0');
     qToBigEndian(quint32(data.size()), numbers.data());
-    qToBigEndian(~sum, numbers.data() + 4);
+    qToBigEndian(CheckSum(checked), numbers.data() + 4);
     return numbers.left(4) + checked + numbers.mid(4);
+}
+
+/// A gzip file of what is given.
+QByteArray Zipped(const QByteArray& bytes) {
+    // Four bytes of size and two of a header stand before the compressed bytes, a sum of four
+    // behind them.
+    const QByteArray compressed = qCompress(bytes).mid(6).chopped(4);
+    return QByteArray::fromHex("1f8b0800000000000003") + compressed + Number(CheckSum(bytes), 4) +
+           Number(quint32(bytes.size()), 4);
+}
+
+/// An icon that gives itself two dots by two and holds a PNG.
+QByteArray IconWithPng(const QByteArray& png) {
+    return QByteArray::fromHex("000001000100"
+                               "0202000001002000") +
+           Longs({png.size(), 22}) + png;
+}
+
+/// A drawing of a blue square with what is given behind it.
+QByteArray DrawingWith(const QByteArray& inside, const QByteArray& before = {}) {
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n" + before +
+           "<svg xmlns=\"http://www.w3.org/2000/svg\" "
+           "xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\"100\" height=\"50\">\n"
+           "<rect x=\"0\" y=\"0\" width=\"50\" height=\"50\" fill=\"#0000ff\"/>\n" +
+           inside + "</svg>\n";
+}
+
+/// Red dots of a kind, stretched over the right half of the drawing above.
+QByteArray DataImage(const QByteArray& kind = "png") {
+    QImage dots(8, 8, QImage::Format_RGB32);
+    dots.fill(red);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    EXPECT_TRUE(dots.save(&buffer, kind.constData()));
+    return "<image x=\"50\" y=\"0\" width=\"50\" height=\"50\" preserveAspectRatio=\"none\" "
+           "xlink:href=\"data:image/" +
+           kind + ";base64," + bytes.toBase64() + "\"/>\n";
 }
 
 /// A PNG of one bit, or of four times sixteen, for a dot; its rows are as given.
@@ -169,6 +212,27 @@ protected:
         folder.Write(name, "#!/bin/sh\n" + command + "\n");
         ASSERT_TRUE(QFile::setPermissions(folder.PathOf(name), QFile::ReadOwner | QFile::ExeOwner));
         qputenv("PATH", folder.PathOf(u"programs"_s).toUtf8() + ":" + qgetenv("PATH"));
+    }
+
+    /// Puts a program in the converter's place that hands out one drawing.
+    void ConvertTo(const QByteArray& drawing) const {
+        folder.Write(u"drawing.svg"_s, drawing);
+        ReplaceConverter("exec cp '" + folder.PathOf(u"drawing.svg"_s).toUtf8() + "' \"$4\"");
+    }
+    void ExpectDrawingRefused(const QByteArray& drawing) const {
+        ConvertTo(drawing);
+        QElapsedTimer timer;
+        timer.start();
+        EXPECT_EQ(FailureOfLoading(u"logo.emf"_s, MetafileBytes()),
+                  u"It is no metafile that can be converted."_s)
+            << drawing.toStdString();
+        EXPECT_LT(timer.elapsed(), quickly);
+    }
+    /// The path of a pipe that nobody writes to: who opens it waits for ever.
+    QByteArray Pipe() const {
+        const QByteArray path = QFile::encodeName(folder.PathOf(u"pipe"_s));
+        EXPECT_EQ(::mkfifo(path.constData(), 0600), 0);
+        return path;
     }
 
     TestFolder folder;
@@ -277,14 +341,14 @@ TEST_F(DesktopPicturesTest, FrameOfAMetafileMayBeginAnywhere) {
 TEST_F(DesktopPicturesTest, MetafileIsDrawnFineEnoughForPaperAndTransparentWhereNothingIsDrawn) {
     const Picture picture = LoadBytes(u"logo.emf"_s, MetafileBytes());
     ASSERT_TRUE(picture.Image);
-    ASSERT_EQ(picture.Image->size(), QSize(2000, 1000));
-    for (const int y : {5, 500, 994}) {
-        EXPECT_EQ(picture.Image->pixel(5, y), red);
-        EXPECT_EQ(picture.Image->pixel(650, y), red);
-        EXPECT_EQ(qAlpha(picture.Image->pixel(680, y)), 0);
-        EXPECT_EQ(qAlpha(picture.Image->pixel(1320, y)), 0);
-        EXPECT_EQ(picture.Image->pixel(1350, y), blue);
-        EXPECT_EQ(picture.Image->pixel(1994, y), blue);
+    ASSERT_EQ(picture.Image->size(), QSize(800, 400));
+    for (const int y : {3, 200, 396}) {
+        EXPECT_EQ(picture.Image->pixel(3, y), red);
+        EXPECT_EQ(picture.Image->pixel(260, y), red);
+        EXPECT_EQ(qAlpha(picture.Image->pixel(273, y)), 0);
+        EXPECT_EQ(qAlpha(picture.Image->pixel(527, y)), 0);
+        EXPECT_EQ(picture.Image->pixel(540, y), blue);
+        EXPECT_EQ(picture.Image->pixel(796, y), blue);
     }
 }
 
@@ -321,7 +385,8 @@ TEST_F(DesktopPicturesTest, HugeMetafileIsRefusedWithoutConvertingIt) {
     timer.start();
     EXPECT_EQ(FailureOfLoading(u"huge.emf"_s,
                                MetafileBytes({{0, 0, 300, 150}, {0, 0, 254'000'000, 127'000'000}})),
-              u"It has 9600000 by 4800000 dots, and a logo can have at most 30000000 in all."_s);
+              u"It has 9600000 by 4800000 dots, and a logo can have at most 30000000 in all "
+              u"and 20000 on a side."_s);
     EXPECT_LT(timer.elapsed(), quickly);
 }
 
@@ -367,7 +432,7 @@ TEST_F(DesktopPicturesTest, ConverterThatWritesWithoutEndIsEndedByItsLimit) {
                      "'");
     EXPECT_EQ(FailureOfLoading(u"logo.emf"_s, MetafileBytes()),
               u"It is no metafile that can be converted."_s);
-    EXPECT_EQ(folder.Read(u"size"_s), "33554432\n");
+    EXPECT_EQ(folder.Read(u"size"_s), "1048576\n");
 }
 
 TEST_F(DesktopPicturesTest, WhatTheConverterSaysTakesNoMemory) {
@@ -390,7 +455,114 @@ TEST_F(DesktopPicturesTest, ConverterThatFailsOrWritesNoDrawingIsABadPicture) {
     EXPECT_EQ(FailureOfLoading(u"logo.emf"_s, MetafileBytes()), expected);
 }
 
+// What a converted drawing may hold.
+
+TEST_F(DesktopPicturesTest, DrawingWithAnImageOfItsOwnIsShown) {
+    ConvertTo(DrawingWith(DataImage()));
+    const Picture picture = LoadBytes(u"logo.emf"_s, MetafileBytes());
+    ASSERT_TRUE(picture.Image);
+    EXPECT_EQ(picture.Width, 1440);
+    EXPECT_EQ(picture.Image->pixel(200, 200), blue);
+    EXPECT_EQ(picture.Image->pixel(600, 200), red);
+    ConvertTo(DrawingWith(DataImage("jpg")));
+    const QColor photo = LoadBytes(u"photo.emf"_s, MetafileBytes()).Image->pixelColor(600, 200);
+    EXPECT_GT(photo.red(), 240);
+    EXPECT_LT(photo.green() + photo.blue(), 20);
+}
+
+TEST_F(DesktopPicturesTest, DrawingMayHoldFourImagesAndNoMore) {
+    ConvertTo(DrawingWith(DataImage().repeated(4)));
+    EXPECT_EQ(LoadBytes(u"logo.emf"_s, MetafileBytes()).Image->pixel(600, 200), red);
+    ExpectDrawingRefused(DrawingWith(DataImage().repeated(5)));
+}
+
+TEST_F(DesktopPicturesTest, DrawingThatNamesAFileIsRefusedWithoutOpeningIt) {
+    const QByteArray pipe = Pipe();
+    const QByteArray place = " width=\"9\" height=\"9\"/>";
+    ExpectDrawingRefused(DrawingWith("<image href=\"" + pipe + "\"" + place));
+    ExpectDrawingRefused(DrawingWith("<image xlink:href=\"" + pipe + "\"" + place));
+    ExpectDrawingRefused(DrawingWith("<image xlink:href='file:" + pipe + "'" + place));
+    ExpectDrawingRefused(DrawingWith("<image xlink:href\n = \n'" + pipe + "'" + place));
+    ExpectDrawingRefused(DrawingWith(DataImage() + "<image xlink:href='" + pipe + "'" + place));
+}
+
+TEST_F(DesktopPicturesTest, DrawingInsideADrawingIsRefused) {
+    const QByteArray pipe = Pipe();
+    const QByteArray inner =
+        DrawingWith("<image xlink:href=\"" + pipe + "\" width=\"9\" height=\"9\"/>");
+    const auto image = [](const QByteArray& link) {
+        return DrawingWith("<image width=\"9\" height=\"9\" xlink:href=\"" + link + "\"/>");
+    };
+    ExpectDrawingRefused(image("data:image/svg+xml;base64," + inner.toBase64()));
+    // What the bytes are counts, not what they are said to be.
+    ExpectDrawingRefused(image("data:image/png;base64," + inner.toBase64()));
+    ExpectDrawingRefused(image("data:image/png;base64,iVBORw0KGgo=;base64," + inner.toBase64()));
+    ExpectDrawingRefused(
+        image("data:image/png;base64,iVBORw0KGgo=;&#98;ase64," + inner.toBase64()));
+}
+
+TEST_F(DesktopPicturesTest, BytesThatBeginAsAPictureOfDotsAreNotReadAsADrawing) {
+    const QByteArray inner =
+        DrawingWith("<image xlink:href=\"" + Pipe() + "\" width=\"9\" height=\"9\"/>");
+    const std::pair<QByteArray, QByteArray> beginnings[] = {
+        {"png", QByteArray::fromHex("89504e470d0a1a0a0000000d49484452")},
+        {"jpg", QByteArray::fromHex("ffd8ff")}};
+    for (const auto& [kind, beginning] : beginnings) {
+        ConvertTo(DrawingWith("<image width=\"9\" height=\"9\" xlink:href=\"data:image/" + kind +
+                              ";base64," + (beginning + inner).toBase64() + "\"/>"));
+        QElapsedTimer timer;
+        timer.start();
+        EXPECT_EQ(LoadBytes(u"logo.emf"_s, MetafileBytes()).Image->pixel(200, 200), blue);
+        EXPECT_LT(timer.elapsed(), quickly);
+    }
+}
+
+TEST_F(DesktopPicturesTest, ImagesCountWhateverTheirPrefix) {
+    QByteArray images = DataImage().repeated(5);
+    images.replace("<image", "<s:image xmlns:s=\"http://www.w3.org/2000/svg\"");
+    ExpectDrawingRefused(DrawingWith(images));
+}
+
+TEST_F(DesktopPicturesTest, DrawingThatUsesAPartOfItselfIsRefused) {
+    ExpectDrawingRefused(DrawingWith("<g id=\"a\"/><use href=\"#a\"/>"));
+    ExpectDrawingRefused(DrawingWith("<g id=\"a\"/><use xlink:href='#a'/>"));
+}
+
+TEST_F(DesktopPicturesTest, DrawingWithAnEntityIsRefused) {
+    for (const char* word : {"<!ENTITY", "<!entity"})
+        ExpectDrawingRefused(
+            DrawingWith("<text>&a;</text>", "<!DOCTYPE svg [" + QByteArray(word) + " a \"b\">]>"));
+}
+
 // What is no picture.
+
+TEST_F(DesktopPicturesTest, DrawingIsNoLogo) {
+    const QByteArray drawing = DrawingWith({});
+    EXPECT_EQ(FailureOfLoading(u"logo.svg"_s, drawing), u"A logo can't be of the kind svg."_s);
+    EXPECT_EQ(FailureOfLoading(u"logo.bmp"_s, drawing), u"A logo can't be of the kind svg."_s);
+    EXPECT_EQ(FailureOfLoading(u"logo.svgz"_s, Zipped(drawing)),
+              u"A logo can't be of the kind svgz."_s);
+}
+
+TEST_F(DesktopPicturesTest, MetafileNeedsTheSignatureInItsPlace) {
+    ReplaceConverter("touch '" + folder.PathOf(u"started"_s).toUtf8() + "'; exit 1");
+    const QByteArray beginning("\1\0\0\0", 4);
+    for (const int between : {0, 35})
+        EXPECT_EQ(FailureOfLoading(u"logo.emf"_s, beginning + QByteArray(between, 0) + " EMF"),
+                  u"Unsupported image format."_s)
+            << between;
+    EXPECT_FALSE(folder.Has(u"started"_s));
+    // With the signature in its place the header is looked at.
+    EXPECT_EQ(FailureOfLoading(u"logo.emf"_s, beginning + QByteArray(36, 0) + " EMF"),
+              u"It has no size."_s);
+    EXPECT_FALSE(folder.Has(u"started"_s));
+}
+
+TEST_F(DesktopPicturesTest, WithoutAPlaceForTemporaryFilesAMetafileIsABadPicture) {
+    qputenv("TMPDIR", "/proc");
+    EXPECT_TRUE(FailureOfLoading(u"logo.emf"_s, MetafileBytes())
+                    .startsWith(u"There is no room to convert it: "_s));
+}
 
 TEST_F(DesktopPicturesTest, FileThatIsNoPictureIsABadPicture) {
     for (const char* name : {"logo.bmp", "logo.ico", "logo.cur", "logo.jpg", "logo.EMF", "logo"}) {
@@ -444,7 +616,8 @@ TEST_F(DesktopPicturesTest, BitmapThatClaims200MillionDotsIsRefusedQuicklyInLitt
     QElapsedTimer timer;
     timer.start();
     EXPECT_EQ(FailureOfLoading(u"huge.bmp"_s, bytes),
-              u"It has 20000 by 10000 dots, and a logo can have at most 30000000 in all."_s);
+              u"It has 20000 by 10000 dots, and a logo can have at most 30000000 in all "
+              u"and 20000 on a side."_s);
     EXPECT_LT(timer.elapsed(), quickly);
     EXPECT_LT(MegabytesHeld() - before, fewMegabytes);
 }
@@ -456,7 +629,8 @@ TEST_F(DesktopPicturesTest, SmallFileOf200MillionDotsIsRefusedQuicklyInLittleMem
     QElapsedTimer timer;
     timer.start();
     EXPECT_EQ(FailureOfLoading(u"huge.png"_s, bytes),
-              u"It has 20000 by 10000 dots, and a logo can have at most 30000000 in all."_s);
+              u"It has 20000 by 10000 dots, and a logo can have at most 30000000 in all "
+              u"and 20000 on a side."_s);
     EXPECT_LT(timer.elapsed(), quickly);
     EXPECT_LT(MegabytesHeld() - before, fewMegabytes);
 }
@@ -474,5 +648,43 @@ TEST_F(DesktopPicturesTest, ThirtyMillionDotsAreTheMost) {
     };
     EXPECT_EQ(LoadBytes(u"most.png"_s, blank(6000, 5000)).Width, 90000);
     EXPECT_EQ(FailureOfLoading(u"more.png"_s, blank(6000, 5001)),
-              u"It has 6000 by 5001 dots, and a logo can have at most 30000000 in all."_s);
+              u"It has 6000 by 5001 dots, and a logo can have at most 30000000 in all "
+              u"and 20000 on a side."_s);
+}
+
+TEST_F(DesktopPicturesTest, SideOf20000DotsIsTheMost) {
+    const auto bitmap = [](qint64 width, qint64 height) {
+        return "BM" + Longs({54, 0, 54}) + Longs({40, width, height}) + Number(1, 2) +
+               Number(24, 2) + Longs({0, 0, 0, 0, 0, 0});
+    };
+    const std::pair<QByteArray, QString> rows[] = {{bitmap(1, 30'000'000), u"1 by 30000000"_s},
+                                                   {bitmap(30'000'000, 1), u"30000000 by 1"_s},
+                                                   {bitmap(1, 20'001), u"1 by 20001"_s},
+                                                   {bitmap(20'001, 1), u"20001 by 1"_s}};
+    const long before = MegabytesHeld();
+    for (const auto& [bytes, size] : rows) {
+        QElapsedTimer timer;
+        timer.start();
+        EXPECT_EQ(
+            FailureOfLoading(u"long.bmp"_s, bytes),
+            u"It has %1 dots, and a logo can have at most 30000000 in all and 20000 on a side."_s
+                .arg(size));
+        EXPECT_LT(timer.elapsed(), quickly);
+    }
+    EXPECT_LT(MegabytesHeld() - before, fewMegabytes);
+    EXPECT_EQ(LoadBytes(u"long.png"_s, PngBytes(1, 20'000, false, QByteArray(40'000, '\0'))).Height,
+              300'000);
+}
+
+TEST_F(DesktopPicturesTest, IconThatSaysItIsSmallIsRefusedByWhatItHolds) {
+    constexpr quint32 side = 5790;
+    constexpr int bytesInRow = 725;
+    const QByteArray png = PngBytes(side, side, false, QByteArray(bytesInRow * int(side), '\0'));
+    EXPECT_EQ(FailureOfLoading(u"logo.ico"_s, IconWithPng(png)),
+              u"It has 5790 by 5790 dots, and a logo can have at most 30000000 in all and 20000 on "
+              u"a side."_s);
+    // The same icon with a small picture is one.
+    const Picture small =
+        LoadBytes(u"small.ico"_s, IconWithPng(PngBytes(16, 16, false, QByteArray(48, '\0'))));
+    EXPECT_EQ(small.Width, 240);
 }

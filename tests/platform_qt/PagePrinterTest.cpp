@@ -543,3 +543,73 @@ TEST_F(PagePrinterTest, AJobAfterAFailedOneIsPrinted) {
     EXPECT_EQ(pages.Count(), 1);
     EXPECT_EQ(pages.Words(1), QStringList{u"Printed"_s});
 }
+
+/// The sample page of the logo, which isn't set up: it comes out the way the last document of the
+/// run did.
+class SamplePageTest : public PagePrinterTest {
+protected:
+    SamplePageTest() {
+        QImage image(100, 100, QImage::Format_RGB32);
+        image.fill(QColor(255, 0, 0));
+        office.settings.logo = {std::make_shared<const QImage>(image), 1440, 1440};
+        office.settings.logoWidth = 1440;
+        office.settings.logoHeight = 720;
+        office.settings.PrintInColorFlag = true;
+    }
+
+    /// A document the given way, and the sample page after it.
+    PrintedPages PrintedAfter(Orientation orientation, bool inColor) {
+        printer.SetPage(orientation, inColor);
+        PrintOnePage();
+        return PrintedNext();
+    }
+    PrintedPages PrintedNext() {
+        office.logo.PrintSample(printer);
+        EXPECT_EQ(Documents().filter(u"Print Sample"_s).size(), 1);
+        return PrintedPages(opened.value(opened.size() - 1));
+    }
+
+    SetClock clock;
+    ScriptedOperator user;
+    RecordingBrowser browser;
+    FakePictures pictures;
+    Office office{folder.Path(), {clock, user, printer, browser, pictures}};
+};
+
+TEST_F(SamplePageTest, FirstOfARunIsUprightAndInColor) {
+    const PrintedPages pages = PrintedNext();
+    EXPECT_EQ(pages.Count(), 1);
+    EXPECT_EQ(pages.Property(u"Page size"_s), u"612 x 792 pts (letter)"_s);
+    const QImage picture = pages.Picture();
+    // The logo begins at half of 12,240 less 1,440, and is half an inch high.
+    ExpectColorNear(ColorAt(picture, 3.8, 0.6), {255, 0, 0});
+    ExpectColorNear(ColorAt(picture, 4.7, 0.95), {255, 0, 0});
+    EXPECT_EQ(ColorAt(picture, 3.7, 0.6).name(), u"#ffffff"_s);
+    EXPECT_EQ(ColorAt(picture, 3.8, 1.05).name(), u"#ffffff"_s);
+    EXPECT_EQ(ColorAt(picture, 2.0, 1.5).name(), u"#0000ff"_s);
+    EXPECT_EQ(ColorAt(picture, 2.0, 9.5).name(), u"#000080"_s);
+}
+
+TEST_F(SamplePageTest, AfterALandscapePageItLiesOnItsSideTooAndTheLowestFrameIsCutOff) {
+    const PrintedPages pages = PrintedAfter(Orientation::Landscape, true);
+    EXPECT_EQ(pages.Count(), 1);
+    EXPECT_EQ(pages.Property(u"Page size"_s), u"792 x 612 pts (letter)"_s);
+    const QImage picture = pages.Picture();
+    // The logo begins at half of 15,840 less 1,440.
+    ExpectColorNear(ColorAt(picture, 5.05, 0.6), {255, 0, 0});
+    EXPECT_EQ(ColorAt(picture, 4.95, 0.6).name(), u"#ffffff"_s);
+    EXPECT_EQ(ColorAt(picture, 2.0, 1.5).name(), u"#0000ff"_s);
+    // The lowest frame begins 8.25 inches down and would end at 9.5; the paper ends at 8.5.
+    EXPECT_EQ(ColorAt(picture, 2.0, 8.25).name(), u"#000080"_s);
+    EXPECT_NEAR(InkWithin(picture, {0, 8.3, 11, 0.2}).bottom(), 8.5, nearby);
+    EXPECT_NEAR(InkWithin(picture, {0, 0, 11, 8.5}).right(), 7.5, nearby);
+}
+
+TEST_F(SamplePageTest, AfterAPageWithoutColorItIsGreyThoughTheFlagSaysColor) {
+    const PrintedPages pages = PrintedAfter(Orientation::Portrait, false);
+    EXPECT_EQ(pages.Property(u"Page size"_s), u"612 x 792 pts (letter)"_s);
+    const QImage picture = pages.Picture();
+    ExpectColorNear(ColorAt(picture, 3.8, 0.6), {130, 130, 130});
+    EXPECT_EQ(ColorAt(picture, 2.0, 1.5).name(), u"#272727"_s);
+    EXPECT_EQ(ColorAt(picture, 2.0, 9.5).name(), u"#141414"_s);
+}

@@ -474,6 +474,25 @@ TEST_F(CompanyLogoTest, LogoIsCentredByTheWidthOfItsFileAndPaintedInItsAdjustedS
     EXPECT_EQ(printer.Pictures[0].height, 500);
 }
 
+TEST_F(CompanyLogoTest, LogoIsCentredOnThePageTheWayRoundItIs) {
+    Find(wide);
+    SetSize(1000, 500);
+    printer.Width = 15840;
+    printer.Height = 12240;
+    logo.PaintOn(printer, 720);
+    printer.Width = 9001;
+    logo.PaintOn(printer, 720);
+    ASSERT_EQ(printer.Pictures.size(), 2U);
+    // Half of 15,840 less 3,000, and of 9,001 less 3,000.
+    EXPECT_EQ(printer.Pictures[0].x, 6420);
+    EXPECT_EQ(printer.Pictures[1].x, 3000.5);
+    for (const auto& painted : printer.Pictures) {
+        EXPECT_EQ(painted.y, 720);
+        EXPECT_EQ(painted.width, 1000);
+        EXPECT_EQ(painted.height, 500);
+    }
+}
+
 TEST_F(CompanyLogoTest, LogoWiderThanThePageBeginsLeftOfIt) {
     pictures.Files[wide] = {20000, 900};
     Find(wide);
@@ -553,6 +572,14 @@ TEST_F(PrintSampleTest, OnePageIsPrintedWithTheLogoAt720AndTheLineWidthEndsAt1) 
     EXPECT_TRUE(printer.Texts.empty());
     EXPECT_TRUE(printer.Lines.empty());
     EXPECT_TRUE(printer.FilledBoxes.empty());
+}
+
+TEST_F(PrintSampleTest, LogoIsPaintedBeforeTheFrames) {
+    using Mark = RecordingPrinter::Mark;
+    Find(green);
+    logo.PrintSample(printer);
+    EXPECT_EQ(printer.Order, (std::vector<Mark>{Mark::Picture, Mark::Box, Mark::Box, Mark::Box,
+                                                Mark::Box, Mark::Box}));
 }
 
 TEST_F(PrintSampleTest, PageIsNotSetUp) {

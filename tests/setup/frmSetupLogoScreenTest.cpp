@@ -217,6 +217,19 @@ TEST_F(SetupLogoScreen, ClearAnsweredYesEmptiesBothViewsAndKeepsTheSize) {
     ExpectAdjusted({96, 48}, Qt::blue);
 }
 
+TEST_F(SetupLogoScreen, StoreStaysPossibleAfterFindAndClear) {
+    ShowTab();
+    ClickFind(wide);
+    ClickClear(Answer::Yes);
+    ExpectNoPicture();
+    EXPECT_TRUE(Button(store)->isEnabled());
+    // The path found is stored, without a picture that has a size.
+    ClickStore();
+    EXPECT_EQ(folder.Read(logoFile), "\"/home/dairy/wide.bmp\"\r\n");
+    EXPECT_FALSE(folder.Has(sizeFile));
+    EXPECT_FALSE(Button(store)->isEnabled());
+}
+
 TEST_F(SetupLogoScreen, StepsRepaintTheAdjustedLogoAtItsNewSize) {
     ShowTabWithLogo("1440,1440\r\n");
     // 50 twips are three dots and a third.

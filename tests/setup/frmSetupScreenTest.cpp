@@ -1,3 +1,4 @@
+#include "platform/GuardedApplication.h"
 #include "setup/AddressStyle.h"
 #include "setup/frmSetup.h"
 #include "startup/StartUp.h"
@@ -107,6 +108,13 @@ protected:
     void WriteBusinessFiles() const {
         for (const auto& [name, bytes] : BusinessFiles())
             folder.Write(name, bytes);
+    }
+
+    /// What the window's close box does.
+    void CloseSetup() {
+        QCloseEvent event;
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(run->screens.Find(setup), &event);
     }
 
     void WaitForSetup() { ASSERT_TRUE(QTest::qWaitForWindowActive(run->screens.Find(setup))); }
@@ -446,11 +454,23 @@ TEST_F(SetupScreen, CloseBoxEndsTheProgramWithoutSaving) {
     Enter(Business(0), u"Another"_s);
     GoTo(WorkDays);
     Tick(u"optSS"_s);
-    QCloseEvent event;
-    QSpontaneKeyEvent::setSpontaneous(&event);
-    qApp->notify(run->screens.Find(setup), &event);
+    CloseSetup();
     EXPECT_EQ(exits, 1);
     run.reset();
+    EXPECT_EQ(folder.Contents(), before);
+}
+
+TEST_F(SetupScreen, CloseBoxInAnEmptyAmountBoxIsOneEndOfTheProgramAndNoFailure) {
+    WriteBusinessFiles();
+    StartSetup();
+    GoTo(DeliveriesInvoicing);
+    Enter(charge, QString());
+    const auto before = folder.Contents();
+    CloseSetup();
+    EXPECT_EQ(exits, 1);
+    run.reset();
+    EXPECT_EQ(exits, 1);
+    ExpectNoFailure();
     EXPECT_EQ(folder.Contents(), before);
 }
 
@@ -747,6 +767,33 @@ TEST_F(SetupScreen, SaveByItsKey) {
     QTest::keyClick(On<QWidget>(charge), Qt::Key_S, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([&] { return Shows(menu); }));
     EXPECT_EQ(Saved(deliveryFile), "0,1,0,1,0,0,#TRUE#,#FALSE#,\"$0.00\",\"$0.00\",\"$7.00\"\r\n");
+    // The box was left before the save: only that writes the amount in it anew.
+    EXPECT_EQ(Text(charge), u"$7.00"_s);
+}
+
+TEST_F(SetupScreen, SaveByItsKeyFromAnEmptyAmountBoxFailsWithNothingSaved) {
+    WriteBusinessFiles();
+    StartSetup();
+    Enter(Business(0), u"Another"_s);
+    GoTo(DeliveriesInvoicing);
+    Enter(charge, QString());
+    const auto before = folder.Contents();
+    ExpectNoFailure();
+    // The program ends in the middle of the click, at the first failure; what is on disk then
+    // counts. Only the test goes on.
+    std::map<QString, QByteArray> atTheFailure;
+    auto* application = qobject_cast<GuardedApplication*>(qApp);
+    const auto take = application->OnFailure;
+    application->OnFailure = [&](const RuntimeFailure& failure) {
+        if (Failures().empty())
+            atTheFailure = folder.Contents();
+        take(failure);
+    };
+    QTest::keyClick(On<QWidget>(charge), Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !Failures().empty(); }));
+    application->OnFailure = take;
+    ExpectFailure(FailureKind::TypeMismatch, u"(the delivery charge of the setup screen)"_s);
+    EXPECT_EQ(atTheFailure, before);
 }
 
 TEST_F(SetupScreen, CopiesTypedFromNothingTo255AreSaved) {
@@ -782,6 +829,41 @@ TEST_F(SetupScreen, CopiesTypedThatAreNoByteFailWithNothingSaved) {
         EXPECT_TRUE(Shows(setup));
         EXPECT_EQ(folder.Contents(), before) << copies.toStdString();
     }
+}
+
+// A double quote in a text ends its field for the next reader.
+
+TEST_F(SetupScreen, DoubleQuoteInARateIsSavedAndStopsTheNextStart) {
+    StartSetup();
+    EnterNameAndTelephone();
+    GoTo(Taxation);
+    EnterInList(u"cboRate1"_s, u"5\""_s);
+    Save();
+    ExpectNoFailure();
+    EXPECT_EQ(Saved(taxFile), "\"Sales Tax\",\"Tax\",\"5\"\",\"4.0\",0,0\r\n");
+    // The second rate runs from the quote left over to the next one, and the first of the two
+    // numbers is what follows it.
+    const RuntimeFailure failure = FailureOf([&] { Start(); });
+    EXPECT_EQ(failure.Kind(), FailureKind::TypeMismatch);
+    EXPECT_EQ(failure.Sentence(), u"Reading TaxSettings.txt failed: \"4.0\"\" is not a number."_s);
+}
+
+TEST_F(SetupScreen, DoubleQuoteInAHeadingShiftsTheFieldsBehindIt) {
+    StartSetup();
+    EnterNameAndTelephone();
+    GoTo(Taxation);
+    EnterInList(u"cboTaxHeading1"_s, u"A\"B"_s);
+    Tick(u"ckApply1stTax"_s);
+    Save();
+    EXPECT_EQ(Saved(taxFile), "\"A\"B\",\"Tax\",\"4.0\",\"4.0\",1,0\r\n");
+    StartSetup();
+    EXPECT_EQ(Live().cboTaxHeading1, u"A"_s);
+    EXPECT_EQ(Live().cboTaxHeading2, u"B\""_s);
+    EXPECT_EQ(Live().cboRate1, u"Tax"_s);
+    EXPECT_EQ(Live().cboRate2, u"4.0"_s);
+    EXPECT_EQ(Live().ckApply1stTax, 4);
+    EXPECT_EQ(Live().ckApply2ndTax, 1);
+    ExpectNoFailure();
 }
 
 // Files that can't be read or written.
@@ -923,6 +1005,21 @@ TEST_F(AddressScreen, EachClickFlipsTextsWidthsAndLengths) {
     EXPECT_EQ(BusinessBox(3)->width(), cityNarrow);
     EXPECT_EQ(BusinessBox(4)->width(), stateNarrow);
     EXPECT_EQ(StateTakes(), 2);
+}
+
+TEST_F(AddressScreen, WidthsOfCityAndStateFollowTheStyle) {
+    StartWith(usaBusiness);
+    // City to address as 3,150 to 5,385; the state has room for two capitals.
+    const int address = BusinessBox(0)->width();
+    EXPECT_NEAR(BusinessBox(3)->width(), address * 3150.0 / 5385.0, 1.0);
+    const int capitals = BusinessBox(4)->fontMetrics().horizontalAdvance(u"WW"_s);
+    EXPECT_GT(BusinessBox(4)->width(), capitals);
+    EXPECT_LT(BusinessBox(4)->width(), 3 * capitals);
+    ClickOn(u"cmdAddress"_s);
+    QApplication::processEvents();
+    EXPECT_EQ(BusinessBox(0)->width(), address);
+    EXPECT_EQ(BusinessBox(3)->width(), address);
+    EXPECT_EQ(BusinessBox(4)->width(), address);
 }
 
 TEST_F(AddressScreen, PastedStateIsCutAtItsLengthToo) {
@@ -1085,6 +1182,48 @@ TEST_F(AddressScreen, ReloadWithoutAFileEmptiesTheBoxes) {
     EXPECT_FALSE(folder.Has(businessFile));
 }
 
+TEST_F(AddressScreen, ReloadAfterTheFileHasGoneEmptiesBoxesAndData) {
+    StartWith(usaBusiness);
+    folder.Remove(businessFile);
+    Enter(Business(2), u"Rear"_s);
+    ClickOn(u"Image5"_s);
+    for (int i = 0; i < 9; ++i) {
+        EXPECT_EQ(Text(Business(i)), QString()) << i;
+        EXPECT_EQ(Live().BusinessData[size_t(i)], QString()) << i;
+        EXPECT_EQ(Live().txtBusiness[size_t(i)], QString()) << i;
+    }
+    EXPECT_FALSE(folder.Has(businessFile));
+    ExpectNoFailure();
+}
+
+TEST_F(AddressScreen, ReloadBringsBackAFileOfWhichOnlyTheBackupIsLeft) {
+    StartWith(usaBusiness);
+    folder.Remove(businessFile);
+    folder.Write(u"Backup/MyBusinessData.txt"_s, internationalBusiness);
+    ClickOn(u"Image5"_s);
+    EXPECT_EQ(Text(Business(0)), u"Corner Dairy"_s);
+    EXPECT_EQ(Text(Business(4)), u"Illinois"_s);
+    EXPECT_EQ(Text(Business(5)), QString());
+    EXPECT_EQ(Live().BusinessData[4], u"Illinois"_s);
+    EXPECT_EQ(Saved(businessFile), internationalBusiness);
+}
+
+TEST_F(AddressScreen, ReloadInTheInternationalStyleShowsTheFileAndKeepsTheStyle) {
+    StartWith(usaBusiness);
+    ClickOn(u"cmdAddress"_s);
+    ExpectStyle(false);
+    Enter(Business(3), u"x"_s);
+    Enter(Business(4), u"Illinois"_s);
+    ClickOn(u"Image5"_s);
+    ExpectStyle(false);
+    const QStringList business = {u"Corner Dairy"_s, u"12 Mill Road"_s, QString(),
+                                  u"Springfield"_s,  u"IL"_s,           u"62704"_s,
+                                  u"217"_s,          QString(),         QString()};
+    for (int i = 0; i < 9; ++i)
+        EXPECT_EQ(Text(Business(i)), business[i]) << i;
+    EXPECT_EQ(StateTakes(), 55);
+}
+
 TEST_F(AddressScreen, ReloadOfADamagedFileFailsByName) {
     StartWith(usaBusiness);
     folder.Write(businessFile, "\"Corner\"");
@@ -1187,12 +1326,17 @@ TEST_F(SettingsTable, EntryTypedWithEnterStaysAsTypedAndJoinsNoList) {
     EXPECT_EQ(List(u"cboTaxHeading1"_s)->count(), 7);
 }
 
-TEST_F(SettingsTable, BoxesWithoutEffectAreNotStored) {
+TEST_F(SettingsTable, BoxesWithoutEffectCannotBeTicked) {
     WriteBusinessFiles();
     StartSetup();
     const auto before = folder.Contents();
-    for (const char* name : {"ckServices", "ckSalesItems", "ckLabor"})
-        On<QAbstractButton>(QString::fromLatin1(name))->setChecked(true);
+    GoTo(Taxation);
+    for (const QString& name : {u"ckServices"_s, u"ckSalesItems"_s, u"ckLabor"_s}) {
+        EXPECT_FALSE(On<QWidget>(name)->isEnabled()) << name.toStdString();
+        Tick(name);
+        EXPECT_FALSE(IsTicked(name)) << name.toStdString();
+    }
+    EXPECT_EQ(folder.Contents(), before);
     Save();
     EXPECT_EQ(folder.Contents(), before);
 }
@@ -1256,6 +1400,24 @@ TEST_F(SettingsTable, WorkWeekOfTheSettingsFileRulesWhileTheOtherIsShown) {
     Save();
     EXPECT_EQ(Saved(workDaysFile), "7\r\n");
     EXPECT_EQ(Saved(settingsFile), "8\r\n7\r\n#FALSE#\r\n#FALSE#\r\n#FALSE#\r\n");
+}
+
+TEST_F(SettingsTable, ClickOnTheWorkWeekAlreadyShownMakesItTheOneThatRules) {
+    WriteBusinessFiles();
+    folder.Write(workDaysFile, "5\r\n");
+    folder.Write(settingsFile, "8\r\n7\r\n#FALSE#\r\n#FALSE#\r\n#FALSE#\r\n");
+    StartSetup();
+    EXPECT_EQ(Live().WorkWeek, 7);
+    GoTo(WorkDays);
+    EXPECT_TRUE(IsTicked(u"optMF"_s));
+    Tick(u"optMF"_s);
+    EXPECT_TRUE(IsTicked(u"optMF"_s));
+    EXPECT_EQ(Live().WorkWeek, 5);
+    QDate saturday(2026, 3, 14);
+    EXPECT_EQ(run->office.calendar.NextAvailableWorkDay(saturday), QDate(2026, 3, 16));
+    Save();
+    EXPECT_EQ(Saved(workDaysFile), "5\r\n");
+    EXPECT_EQ(Saved(settingsFile), "8\r\n5\r\n#FALSE#\r\n#FALSE#\r\n#FALSE#\r\n");
 }
 
 TEST_F(SettingsTable, UntickedPromptsSavedOnceShowUntickedAndRuleAgainAfterARestart) {
@@ -1376,6 +1538,48 @@ TEST_F(SettingsTable, PaperIsOneOfTwo) {
     EXPECT_TRUE(Live().optPlain);
     EXPECT_TRUE(IsTicked(u"optPlain"_s));
     EXPECT_FALSE(IsTicked(u"optReturn"_s));
+}
+
+TEST_F(SettingsTable, FileWithBothPapersOnShowsAndSavesTheRemittanceSlipAlone) {
+    WriteBusinessFiles();
+    folder.Write(deliveryFile, "1,0,1,0,1,1,#TRUE#,#TRUE#,\"$1,000.00\",\"$2.50\",\"$12.50\"\r\n");
+    StartSetup();
+    EXPECT_TRUE(IsTicked(u"optReturn"_s));
+    EXPECT_FALSE(IsTicked(u"optPlain"_s));
+    EXPECT_TRUE(Live().optReturn);
+    EXPECT_FALSE(Live().optPlain);
+    Save();
+    EXPECT_EQ(Saved(deliveryFile),
+              "1,0,1,0,1,1,#FALSE#,#TRUE#,\"$1,000.00\",\"$2.50\",\"$12.50\"\r\n");
+}
+
+TEST_F(SettingsTable, FileWithNeitherPaperOnShowsAndSavesNeither) {
+    const QByteArray neither = "1,0,1,0,1,1,#FALSE#,#FALSE#,\"$1,000.00\",\"$2.50\",\"$12.50\"\r\n";
+    WriteBusinessFiles();
+    folder.Write(deliveryFile, neither);
+    StartSetup();
+    EXPECT_FALSE(IsTicked(u"optReturn"_s));
+    EXPECT_FALSE(IsTicked(u"optPlain"_s));
+    Save();
+    EXPECT_EQ(Saved(deliveryFile), neither);
+    Reopen();
+    EXPECT_FALSE(IsTicked(u"optReturn"_s));
+    EXPECT_FALSE(IsTicked(u"optPlain"_s));
+    GoTo(Printing);
+    Tick(u"optPlain"_s);
+    EXPECT_TRUE(IsTicked(u"optPlain"_s));
+    EXPECT_FALSE(IsTicked(u"optReturn"_s));
+}
+
+TEST_F(SettingsTable, NameOfAFontIsShownAsItStands) {
+    WriteBusinessFiles();
+    const QString name = u"<b>Courier</b> <i>New</i> &amp;"_s;
+    folder.Write(colorsFile, "0\r\n0\r\n\"<b>Courier</b> <i>New</i> &amp;\"\r\n#TRUE#\r\n3\r\n");
+    StartSetup();
+    const auto* lblFont = On<QLabel>(u"lblFont"_s);
+    EXPECT_EQ(lblFont->text(), name);
+    // Marks that were obeyed would take no room.
+    EXPECT_GE(lblFont->sizeHint().width(), lblFont->fontMetrics().horizontalAdvance(name));
 }
 
 TEST_F(SettingsTable, PrintedTextsTakeFontAndColoursAtOnce) {
@@ -1633,6 +1837,19 @@ TEST_F(AmountBoxes, ChargeBeyondTheCurrencyRangeFailsOnLeaving) {
     ExpectFailure(FailureKind::Overflow, u"(the delivery charge of the setup screen)"_s);
 }
 
+TEST_F(AmountBoxes, EnterInAChargeOfZeroMovesOnAndLeavesIt) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        OpenCharge();
+        EXPECT_EQ(Text(charge), u"$0.00"_s);
+        Press(Box(charge), key);
+        EXPECT_TRUE(On<QWidget>(u"ckDelete"_s)->hasFocus());
+        EXPECT_EQ(Text(charge), u"$0.00"_s);
+        EXPECT_EQ(Live().txtDeliveryCharge, u"$0.00"_s);
+    }
+    EXPECT_EQ(user.Beeps, 0);
+    ExpectNoFailure();
+}
+
 TEST_F(AmountBoxes, ChargeIsLeftWhenTheTabIsTurned) {
     OpenCharge();
     Type(Box(charge), u"7"_s);
@@ -1686,6 +1903,22 @@ TEST_F(AmountBoxes, GraduatedBoxesEmptyTheirZeroAndFilterNothing) {
     }
     EXPECT_EQ(user.Beeps, 0);
     EXPECT_EQ(Live().txtGradulated[0], u"0a.b.c\u00e9"_s);
+}
+
+TEST_F(AmountBoxes, EnterInAGraduatedBoxOfZeroMovesOnAndLeavesIt) {
+    OpenPanel();
+    EXPECT_TRUE(Box(limit)->hasFocus());
+    Press(Box(limit), Qt::Key_Return);
+    EXPECT_EQ(Text(limit), u"$0.00"_s);
+    EXPECT_TRUE(Box(surcharge)->hasFocus());
+    Press(Box(surcharge), Qt::Key_Enter);
+    EXPECT_EQ(Text(surcharge), u"$0.00"_s);
+    EXPECT_TRUE(On<QWidget>(quit)->hasFocus());
+    EXPECT_EQ(Live().txtGradulated[0], u"$0.00"_s);
+    EXPECT_EQ(Live().txtGradulated[1], u"$0.00"_s);
+    EXPECT_TRUE(Shows(setup));
+    EXPECT_EQ(user.Beeps, 0);
+    ExpectNoFailure();
 }
 
 TEST_F(AmountBoxes, LeavingAGraduatedBoxLeavesItsText) {

@@ -24,6 +24,11 @@ protected:
     bool WelcomeIsShown() { return Find<QWidget>(splash, u"fraWelcome"_s)->isVisible(); }
 };
 
+TEST_F(SplashScreen, ButtonToGoOnCarriesItsCaption) {
+    screens.Show(splash);
+    EXPECT_EQ(Find<QAbstractButton>(splash, u"cmdContinue"_s)->text(), u"Continue"_s);
+}
+
 TEST_F(SplashScreen, FolderWithoutTheThreeFilesShowsTheWelcomePanel) {
     screens.Show(splash);
     EXPECT_FALSE(WelcomeIsShown());

@@ -29,21 +29,25 @@ double RecordingPrinter::TextHeight(const QString&) {
 }
 
 void RecordingPrinter::Line(double x1, double y1, double x2, double y2, quint32 color) {
+    Order.push_back(Mark::Line);
     Lines.push_back({page, x1, y1, x2, y2, color, DrawWidth});
 }
 
 void RecordingPrinter::Box(double x1, double y1, double x2, double y2, quint32 color) {
     if (FailingBox && int(Boxes.size()) + 1 == *FailingBox)
         throw Stopped();
+    Order.push_back(Mark::Box);
     Boxes.push_back({page, x1, y1, x2, y2, color, DrawWidth});
 }
 
 void RecordingPrinter::FillBox(double x1, double y1, double x2, double y2, quint32 color) {
+    Order.push_back(Mark::FilledBox);
     FilledBoxes.push_back({page, x1, y1, x2, y2, color, DrawWidth});
 }
 
 void RecordingPrinter::PaintPicture(const Picture&, double x, double y, double width,
                                     double height) {
+    Order.push_back(Mark::Picture);
     Pictures.push_back({page, x, y, width, height});
 }
 
@@ -72,6 +76,7 @@ void RecordingPrinter::AbandonJob() {
 void RecordingPrinter::DrawText(double x, double y, const QString& text) {
     if (FailingText && int(Texts.size()) + 1 == *FailingText)
         throw Stopped();
+    Order.push_back(Mark::Text);
     Texts.push_back({page, x, y, text, FontName, FontSize, FontBold, FontUnderline, ForeColor});
 }
 

@@ -39,6 +39,9 @@ public:
     std::vector<Stroke> Boxes;
     std::vector<Stroke> FilledBoxes;
     std::vector<PaintedPicture> Pictures;
+    enum class Mark { Text, Line, Box, FilledBox, Picture };
+    /// Of every text, line, box and picture above, in the order that they were drawn in.
+    std::vector<Mark> Order;
     std::vector<Orientation> Orientations;
     std::vector<bool> Colors;
     int Jobs = 0;
@@ -47,6 +50,9 @@ public:
     std::optional<int> FailingText;
     /// The box (counted from 1) that fails.
     std::optional<int> FailingBox;
+    /// Of the paper, in twips; letter paper upright unless a test turns it.
+    double Width = 12240;
+    double Height = 15840;
     /// Makes such a failure the operator's cancelling.
     bool FailsAsCancelled = false;
     /// The printer dies when the job is sent off.
@@ -56,8 +62,8 @@ public:
     const Text& Find(const QString& text) const;
 
     void SetPage(Orientation orientation, bool inColor) override;
-    double PageWidth() const override { return 12240; }
-    double PageHeight() const override { return 15840; }
+    double PageWidth() const override { return Width; }
+    double PageHeight() const override { return Height; }
     int PageNumber() const override { return page; }
     double TextWidth(const QString& text) override;
     double TextHeight(const QString& text) override;
