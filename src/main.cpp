@@ -48,9 +48,8 @@ void Start(Run& run) {
         QCoreApplication::exit(EXIT_SUCCESS);
         return;
     }
-    run.office = std::make_unique<Office>(dataFolder,
-                                          Machine{run.clock, run.user, run.printer, run.browser,
-                                                  run.pictures});
+    run.office = std::make_unique<Office>(
+        dataFolder, Machine{run.clock, run.user, run.printer, run.browser, run.pictures});
     run.screens = std::make_unique<Screens>(*run.office);
     QObject::connect(run.screens.get(), &Screens::ExitRequested, qApp,
                      [] { QCoreApplication::exit(EXIT_SUCCESS); });

@@ -831,9 +831,11 @@ TEST_F(CustomerSelectionTest, NumberOfADeletedCustomerCanBeUsedAgain) {
 
 TEST_F(CustomerSelectionTest, MovesOneByOneAndWrapsOnlyForward) {
     LoadThree();
+    Text(CustomerText::MiddleInitial) = u"Q"_s;
     customers.MoveTo(Move::Previous);
     EXPECT_EQ(customers.CurrentRecord, 1);
     EXPECT_EQ(Text(CustomerText::AcctNo), u"4471"_s);
+    EXPECT_EQ(Text(CustomerText::MiddleInitial), QString()) << "shown anew";
     customers.MoveTo(Move::Next);
     EXPECT_EQ(customers.CurrentRecord, 2);
     customers.MoveTo(Move::Last);
@@ -863,7 +865,9 @@ TEST_F(CustomerSelectionTest, QuartersBelowFourCustomersOnlySave) {
     customers.MoveTo(Move::Next);
     for (const Move move : {Move::Quarter, Move::Half, Move::ThreeQuarters}) {
         Text(CustomerText::Address1) = u"Jump %1"_s.arg(int(move));
+        Text(CustomerText::MiddleInitial) = u"Q"_s;
         customers.MoveTo(move);
+        EXPECT_EQ(Text(CustomerText::MiddleInitial), u"Q"_s) << "not shown anew";
         EXPECT_EQ(customers.CurrentRecord, 2);
         EXPECT_EQ(CustomerOnDisk(2).mid(65, 6), "Jump " + QByteArray::number(int(move)));
         EXPECT_EQ(Text(CustomerText::Address1), u"Jump %1"_s.arg(int(move)));
@@ -1079,4 +1083,63 @@ TEST_F(CustomerSelectionTest, InvalidRecordKeepsTheOperatorOnTheScreen) {
     user.ExpectMessage(noName);
     EXPECT_FALSE(customers.Leave(true));
     EXPECT_EQ(office.deliveryCustomer.AccountNumber, QString());
+}
+
+// What a mistake in the order would cost.
+
+TEST_F(CustomerSelectionTest, DeleteRewritesTheCycleFileBeforeTheContractFile) {
+    LoadThree();
+    folder.Remove(u"ContractInfo.txt"_s);
+    folder.MakeFolder(u"ContractInfo.txt"_s);
+    user.ExpectQuestion(u"Delete this Customer"_s, {}, Answer::Yes);
+    FailureOf([this] { customers.DeleteCustomer(); });
+    EXPECT_EQ(folder.Read(customerFile).size(), 2 * 328);
+    EXPECT_EQ(folder.Read(cycleFile), Siblings(3, 69).mid(69));
+}
+
+TEST_F(CustomerSelectionTest, NameThatIsNotFoundSavesTheRecordBeforeTheFirstIsShown) {
+    LoadThree();
+    customers.MoveTo(Move::Next);
+    customers.FindInNameList();
+    Text(CustomerText::Address1) = u"1 New Road"_s;
+    user.ExpectMessage(u"Name Not Found\nFirst Accont is Displayed"_s);
+    customers.cboAccounts_LostFocus(u"Nobody"_s);
+    EXPECT_EQ(customers.CurrentRecord, 1);
+    EXPECT_EQ(CustomerOnDisk(2).mid(65, 10), "1 New Road");
+}
+
+TEST_F(CustomerSelectionTest, SelectAfterASavedAddHandsOverTheLastRecordInReach) {
+    LoadThree();
+    customers.AddNewCustomer();
+    EnterPerson();
+    customers.MoveTo(Move::First);
+    EXPECT_TRUE(customers.Leave(true));
+    EXPECT_EQ(office.deliveryCustomer.AccountNumber, u"77"_s);
+    EXPECT_EQ(customers.CustomerCount, 3);
+    EXPECT_EQ(folder.Read(customerFile).size(), 4 * 328);
+}
+
+TEST_F(CustomerSelectionTest, RecordOutOfReachSurvivesTheDeleteOfAnother) {
+    LoadThree();
+    customers.AddNewCustomer();
+    EnterPerson();
+    customers.MoveTo(Move::First);
+    customers.CancelAddNew();
+    const QByteArray outOfReach = CustomerOnDisk(4);
+    user.ExpectQuestion(u"Delete this Customer"_s, {}, Answer::Yes);
+    customers.DeleteCustomer();
+    EXPECT_EQ(folder.Read(customerFile).size(), 3 * 328);
+    EXPECT_EQ(CustomerOnDisk(3), outOfReach);
+}
+
+TEST_F(CustomerSelectionTest, ReservedBytesOfANewAccountAreThoseOfTheRecordReadLast) {
+    SampleCustomer last;
+    last.account = "99";
+    last.reserved = QByteArray("\5\6", 2);
+    LoadWith({SampleCustomer{}, last});
+    customers.MoveTo(Move::Last);
+    customers.AddNewCustomer();
+    EnterPerson();
+    customers.MoveTo(Move::First);
+    EXPECT_EQ(CustomerOnDisk(3).right(2), QByteArray("\5\6", 2));
 }

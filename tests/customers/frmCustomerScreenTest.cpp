@@ -430,16 +430,28 @@ TEST_F(CustomerScreen, TypedCityStaysAsTypedThoughAListedOneBeginsWithIt) {
     EXPECT_EQ(CustomerOnDisk(1).mid(125, 25), QByteArray("Spring").leftJustified(25, ' '));
 }
 
-TEST_F(CustomerScreen, TurningTheWheelOverAListChangesNothing) {
+TEST_F(CustomerScreen, TurningTheWheelOverAListWithoutTheFocusChangesNothing) {
     OpenThree();
-    QComboBox* cities = Combo(u"cboCity"_s);
-    const QPointF place = cities->rect().center();
-    QWheelEvent turn(place, cities->mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
-                     Qt::NoScrollPhase, false);
+    Text(0)->setFocus();
+    for (const QString& name : {u"cboCity"_s, u"cboStates"_s}) {
+        QComboBox* list = Combo(name);
+        const QString before = list->currentText();
+        const QPointF place = list->rect().center();
+        QWheelEvent turn(place, list->mapToGlobal(place), {}, {0, -120}, Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(list, &turn);
+        EXPECT_EQ(list->currentText(), before);
+    }
+}
+
+TEST_F(CustomerScreen, ArrowKeysGoOnFromTheTitleThatIsShown) {
+    OpenThree();
+    Click(screen, u"cmdNav(2)"_s);
     QComboBox* titles = Combo(u"cboTitle"_s);
-    Click(screen, u"cmdAcctType"_s);
-    QApplication::sendEvent(titles, &turn);
-    EXPECT_EQ(titles->currentText(), QString());
+    ASSERT_EQ(titles->currentText(), u"Mr/Mrs"_s);
+    titles->setFocus();
+    Press(titles, Qt::Key_Down);
+    EXPECT_EQ(titles->currentText(), u"Mr."_s);
 }
 
 TEST_F(CustomerScreen, AddShowsCancelAndClosesTheMenuEntries) {
