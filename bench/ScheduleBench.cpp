@@ -155,7 +155,8 @@ static void PrintSchedule(benchmark::State& state) {
     }
     ShowDay(office.rules);
     TracingPrinter tracer;
-    Office traced(folder.Path(), {office.clock, office.user, tracer, office.browser});
+    Office traced(folder.Path(),
+                  {office.clock, office.user, tracer, office.browser, office.pictures});
     ShowDay(traced);
     PrintDay(traced);
     constexpr size_t textsOfItem = 4;
