@@ -28,9 +28,10 @@ bool CheckSingleInstance(const FolderLock& lock, Operator& user) {
 
 void Main(Office& office, Screens& screens) {
     office.setup.LoadAll();
-    screens.Create(ScreenName::frmSetup);
     screens.Show(ScreenName::frmSplash);
     Repaint(screens);
+    // Its settings are loaded; its many controls need not keep the title waiting.
+    screens.Create(ScreenName::frmSetup);
     CreateFolders(office.disk, office.machine.clock);
     office.settingsStore.LoadSettings();
     screens.Create(ScreenName::frmPrintSchedules);
