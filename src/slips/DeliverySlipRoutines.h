@@ -29,7 +29,8 @@ enum class SlipLine {
 constexpr int slipTableLines = 10;
 /// Quoted lines behind them: six of the sold-to address, six of the deliver-to address.
 constexpr int slipAddressLines = 12;
-/// Columns of an item: units, description, unit price, line total.
+/// Columns of the grids that hold a slip's items, fgDelivery and fgItems.
+enum class SlipItemColumn { Units, Description, UnitPrice, LineTotal };
 constexpr int slipItemColumns = 4;
 
 /// All slips in the folder, by header line and entry; entries count from 1. It is a picture taken
