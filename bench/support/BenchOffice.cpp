@@ -7,7 +7,15 @@ using namespace Qt::StringLiterals;
 Answer NoSayer::MsgBox(const QString&, Buttons buttons, const QString&) {
     if (!FirstMessage)
         FirstMessage = std::chrono::steady_clock::now();
-    return buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+    switch (buttons) {
+    case Buttons::Ok:
+        return Answer::Ok;
+    case Buttons::OkCancel:
+        return Answer::Cancel;
+    case Buttons::YesNo:
+        break;
+    }
+    return Answer::No;
 }
 
 BenchOffice::BenchOffice(const QString& dataFolder)

@@ -24,7 +24,8 @@ public:
     QDate Today() const override { return {2026, 3, 9}; }
 };
 
-/// Answers No to every question, takes messages in silence, and knows when the first came.
+/// Answers No or Cancel to every question, takes messages in silence, and knows when the first
+/// came.
 class NoSayer : public Operator {
 public:
     std::optional<std::chrono::steady_clock::time_point> FirstMessage;

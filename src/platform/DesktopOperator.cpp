@@ -32,6 +32,16 @@ QString TitleOr(const QString& title) {
     return title.isEmpty() ? ProgramTitle() : title;
 }
 
+/// Shows a message with these two buttons. Questions guard deletions: a key pressed without looking
+/// must not accept.
+bool Accepts(QMessageBox& box, QMessageBox::StandardButton accept,
+             QMessageBox::StandardButton decline) {
+    box.setStandardButtons(accept | decline);
+    box.setDefaultButton(decline);
+    box.setEscapeButton(decline);
+    return box.exec() == accept;
+}
+
 } // namespace
 
 Answer DesktopOperator::MsgBox(const QString& text, Buttons buttons, const QString& title) {
@@ -46,12 +56,12 @@ Answer DesktopOperator::MsgBox(const QString& text, Buttons buttons, const QStri
         box.exec();
         return Answer::Ok;
     }
+    if (buttons == Buttons::OkCancel) {
+        box.setIcon(QMessageBox::Warning);
+        return Accepts(box, QMessageBox::Ok, QMessageBox::Cancel) ? Answer::Ok : Answer::Cancel;
+    }
     box.setIcon(QMessageBox::Question);
-    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    // Questions guard deletions: a key pressed without looking must not say Yes.
-    box.setDefaultButton(QMessageBox::No);
-    box.setEscapeButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes ? Answer::Yes : Answer::No;
+    return Accepts(box, QMessageBox::Yes, QMessageBox::No) ? Answer::Yes : Answer::No;
 }
 
 std::optional<QString> DesktopOperator::InputBox(const QString& prompt, const QString& title,

@@ -4,8 +4,9 @@
 
 #include <optional>
 
-enum class Buttons { Ok, YesNo };
-enum class Answer { Ok, Yes, No };
+/// OkCancel is a warning before something is done; YesNo asks.
+enum class Buttons { Ok, YesNo, OkCancel };
+enum class Answer { Ok, Cancel, Yes, No };
 
 /// The person at the screen, as the rule modules see them: someone to ask and to tell. The
 /// program answers with real dialogs; a test answers from a script.

@@ -21,6 +21,7 @@
 #include "setup/SetupRoutines.h"
 #include "slips/DeliveryCustomer.h"
 #include "slips/DeliverySlipRoutines.h"
+#include "slips/DeliveryTemplates.h"
 #include "slips/VehicleFleet.h"
 #include "store/BasicDiskRoutines.h"
 #include "store/Calendar.h"
@@ -53,6 +54,7 @@ public:
     Calendar calendar;
     DeliveryTimes deliveryTimes;
     DeliverySlipRoutines slips;
+    DeliveryTemplates templates;
     SalesItemLists items;
     VehicleFleet fleet;
     InventoriedItems inventoriedItems;

@@ -211,7 +211,7 @@ namespace {
 
 const QString question = u"Delete <b>all</b> of it?"_s;
 
-Answer AnswerAt(const std::function<void(QMessageBox&)>& act) {
+Answer AnswerAt(const std::function<void(QMessageBox&)>& act, Buttons buttons = Buttons::YesNo) {
     DesktopOperator user;
     bool isAsked = false;
     AtTheDialog<QMessageBox>([&](QMessageBox& box) {
@@ -219,7 +219,7 @@ Answer AnswerAt(const std::function<void(QMessageBox&)>& act) {
         act(box);
         EXPECT_FALSE(box.isVisible());
     });
-    const Answer answer = user.MsgBox(question, Buttons::YesNo, u"Delete"_s);
+    const Answer answer = user.MsgBox(question, buttons, u"Delete"_s);
     EXPECT_TRUE(isAsked);
     return answer;
 }
@@ -259,6 +259,38 @@ TEST(MessageTest, QuestionIsAnsweredNoByEscapeFromEitherButton) {
                       QTest::keyClick(box.focusWidget(), Qt::Key_Escape);
                   }),
                   Answer::No);
+}
+
+TEST(MessageTest, WarningIsAnsweredByItsTwoButtons) {
+    EXPECT_EQ(AnswerAt(
+                  [](QMessageBox& box) {
+                      EXPECT_EQ(box.windowTitle(), u"Delete"_s);
+                      EXPECT_EQ(box.text(), question);
+                      EXPECT_EQ(box.textFormat(), Qt::PlainText);
+                      EXPECT_EQ(box.icon(), QMessageBox::Warning);
+                      EXPECT_EQ(box.standardButtons(), QMessageBox::Ok | QMessageBox::Cancel);
+                      QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+                  },
+                  Buttons::OkCancel),
+              Answer::Ok);
+    EXPECT_EQ(AnswerAt(
+                  [](QMessageBox& box) {
+                      QTest::mouseClick(box.button(QMessageBox::Cancel), Qt::LeftButton);
+                  },
+                  Buttons::OkCancel),
+              Answer::Cancel);
+}
+
+TEST(MessageTest, WarningIsCancelledByReturnSpaceAndEscapePressedWithoutLooking) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space, Qt::Key_Escape})
+        EXPECT_EQ(AnswerAt(
+                      [key](QMessageBox& box) {
+                          EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::Cancel));
+                          QTest::keyClick(box.focusWidget(), key);
+                      },
+                      Buttons::OkCancel),
+                  Answer::Cancel)
+            << key;
 }
 
 TEST(MessageTest, MessageHasAnOkWhichReturnAndEscapePressToo) {

@@ -16,6 +16,15 @@ void ScriptedOperator::ExpectQuestion(const QString& text, const QString& title,
     script.push_back({text, Buttons::YesNo, title, answer});
 }
 
+void ScriptedOperator::ExpectWarning(const QString& text, const QString& title, Answer answer) {
+    script.push_back({text, Buttons::OkCancel, title, answer});
+}
+
+void ScriptedOperator::ExpectInputBox(const QString& prompt, const QString& title,
+                                      const std::optional<QString>& answer) {
+    script.push_back({prompt, {}, title, Answer::Cancel, answer});
+}
+
 void ScriptedOperator::ExpectFileDialog(const QString& filter, const std::optional<QString>& path) {
     fileDialogs.push_back({filter, path});
 }
@@ -61,23 +70,40 @@ std::optional<QString> ScriptedOperator::AskForFont(const QString& name) {
     return AnswerOf(fontDialogs, name);
 }
 
-Answer ScriptedOperator::MsgBox(const QString& text, Buttons buttons, const QString& title) {
+std::optional<ScriptedOperator::Line> ScriptedOperator::NextLine(const QString& text,
+                                                                 std::optional<Buttons> buttons,
+                                                                 const QString& title) {
     if (script.empty()) {
-        ADD_FAILURE() << "A message too many: " << text.toStdString();
-        return buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+        ADD_FAILURE() << "A message or input box too many: " << text.toStdString();
+        return {};
     }
     const Line line = script.front();
     script.pop_front();
     EXPECT_EQ(text, line.text);
     EXPECT_EQ(buttons, line.buttons);
     EXPECT_EQ(title, line.title);
-    return line.answer;
+    return line;
 }
 
-std::optional<QString> ScriptedOperator::InputBox(const QString& prompt, const QString&,
-                                                  const QString&) {
-    ADD_FAILURE() << "An input box too many: " << prompt.toStdString();
-    return {};
+Answer ScriptedOperator::MsgBox(const QString& text, Buttons buttons, const QString& title) {
+    if (const auto line = NextLine(text, buttons, title))
+        return line->answer;
+    switch (buttons) {
+    case Buttons::Ok:
+        return Answer::Ok;
+    case Buttons::OkCancel:
+        return Answer::Cancel;
+    case Buttons::YesNo:
+        break;
+    }
+    return Answer::No;
+}
+
+std::optional<QString> ScriptedOperator::InputBox(const QString& prompt, const QString& title,
+                                                  const QString& proposal) {
+    EXPECT_EQ(proposal, QString());
+    const auto line = NextLine(prompt, {}, title);
+    return line ? line->input : std::nullopt;
 }
 
 void ScriptedOperator::Beep() {

@@ -15,6 +15,11 @@ public:
 
     void ExpectMessage(const QString& text, const QString& title = {});
     void ExpectQuestion(const QString& text, const QString& title, Answer answer);
+    /// A warning with OK and Cancel.
+    void ExpectWarning(const QString& text, const QString& title, Answer answer);
+    /// An input box without a proposal, in its order among the messages; nothing stands for Cancel.
+    void ExpectInputBox(const QString& prompt, const QString& title,
+                        const std::optional<QString>& answer);
 
     /// The next file, colour or font dialog, with what it is opened with and its answer; nothing
     /// stands for Cancel.
@@ -41,10 +46,15 @@ public:
 private:
     struct Line {
         QString text;
-        Buttons buttons;
+        /// None for an input box.
+        std::optional<Buttons> buttons;
         QString title;
-        Answer answer;
+        Answer answer = Answer::Cancel;
+        std::optional<QString> input = {};
     };
+    /// Takes the next line of the script, if there is one, and compares.
+    std::optional<Line> NextLine(const QString& text, std::optional<Buttons> buttons,
+                                 const QString& title);
     template <typename Value>
     struct Dialog {
         Value opened;
