@@ -11,5 +11,6 @@ Office::Office(const QString& dataFolder, const Machine& theMachine)
       nonInventoriedItems(disk),
       board(disk, slips, calendar, settings, machine.clock, machine.user),
       printer(machine.printer, settings), schedulePrinter(board, printer, settings, machine.user),
+      invoicePrinter(printer, settings, logo, machine.clock),
       customerFiles(disk, machine.clock, machine.user),
       customers(disk, customerFiles, settings, machine.user, deliveryCustomer) {}

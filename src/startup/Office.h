@@ -11,6 +11,7 @@
 #include "products/NonInventoriedItems.h"
 #include "products/SalesItemLists.h"
 #include "schedule/DeliverySchedulePrinter.h"
+#include "schedule/NXPrint.h"
 #include "schedule/PrinterRoutines.h"
 #include "schedule/ScheduleBoard.h"
 #include "setup/CommonDialog.h"
@@ -62,6 +63,7 @@ public:
     ScheduleBoard board;
     PrinterRoutines printer;
     DeliverySchedulePrinter schedulePrinter;
+    NXPrint invoicePrinter;
     CustomerFiles customerFiles;
     DeliveryCustomer deliveryCustomer;
     CustomerSelection customers;
