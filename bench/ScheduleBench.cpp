@@ -136,7 +136,7 @@ QByteArray DrawBare(const std::vector<Drawn>& everything) {
 
 void PrintDay(Office& office) {
     office.board.SelectAll();
-    office.schedulePrinter.Print(true);
+    office.boardPrinting.Print({.ckPrintWorkSchedule = true}, {});
 }
 
 } // namespace
