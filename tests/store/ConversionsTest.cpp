@@ -199,9 +199,9 @@ TEST_F(ConversionsTest, NumberTextOfAnAmountHasAllItsDigits) {
         {9'223'372'036'854'775'807, u"922337203685477.5807"_s},
         {std::numeric_limits<qint64>::min(), u"-922337203685477.5808"_s}};
     for (const auto& [count, text] : amounts)
-        EXPECT_EQ(NumberText(Currency::OfTenThousandths(count)), text);
-    UseLocale("de_DE");
-    EXPECT_EQ(NumberText(Currency::OfTenThousandths(12'505'000)), u"1250,5"_s);
+        EXPECT_EQ(NumberText(Of(count)), text);
+    Use("de_DE");
+    EXPECT_EQ(NumberText(Of(12'505'000)), u"1250,5"_s);
 }
 
 // Amounts.
