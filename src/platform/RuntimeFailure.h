@@ -45,16 +45,26 @@ private:
     QByteArray bytes;
 };
 
+/// A failure that nothing passes over and no road handles: it ends the program wherever it comes
+/// up.
+class EndingFailure : public RuntimeFailure {
+public:
+    using RuntimeFailure::RuntimeFailure;
+};
+
 /// The failure that a failed system call stands for. `operation` is a sentence without its full
 /// stop that names the file, for example "Opening Settings.txt for reading".
 RuntimeFailure FailureFromErrno(int error, const QString& operation);
 
-/// Runs one statement whose failure is to be passed over, and says whether it succeeded.
+/// Runs one statement whose failure is to be passed over, and says whether it succeeded. An
+/// EndingFailure goes through.
 template <typename Statement>
 bool PassOver(Statement&& statement) {
     try {
         statement();
         return true;
+    } catch (const EndingFailure&) {
+        throw;
     } catch (const RuntimeFailure&) {
         return false;
     }

@@ -1,7 +1,5 @@
 #include "schedule/DeliverySchedulePrinter.h"
 
-#include "platform/RuntimeFailure.h"
-#include "schedule/PrintErrors.h"
 #include "store/Conversions.h"
 
 using namespace Qt::StringLiterals;
@@ -44,27 +42,10 @@ DeliverySchedulePrinter::DeliverySchedulePrinter(ScheduleBoard& scheduleBoard,
     : board(scheduleBoard), printer(printerRoutines), surface(printerRoutines.Surface()),
       settings(liveSettings), user(person) {}
 
-void DeliverySchedulePrinter::Print(bool printSchedule) {
-    HandlePrintErrors(surface, user, [this, printSchedule] { PrintMarked(printSchedule); });
-}
-
-void DeliverySchedulePrinter::PrintMarked(bool printSchedule) {
-    board.RebuildWorkSchedule();
-    if (board.lstWorkSchedule.rowCount() == 0) {
-        user.MsgBox(u"No Deliveries for %1 on %2 have been Selected"_s.arg(
-                        board.lstVehicles, ShortDateText(board.DTPicker1)),
-                    Buttons::Ok, u"No Deliveries"_s);
-        return;
-    }
-    surface.JobName =
-        u"Delivery schedule %1 %2"_s.arg(board.DTPicker1.toString(Qt::ISODate), board.lstVehicles);
-    printer.PreparePrinter(Orientation::Portrait, settings.ckColor != 0);
-    if (printSchedule)
-        PrintDeliverySchedule();
-}
-
 void DeliverySchedulePrinter::PrintDeliverySchedule() {
     const BusyPointer busy(user);
+    surface.JobName =
+        u"Delivery schedule %1 %2"_s.arg(board.DTPicker1.toString(Qt::ISODate), board.lstVehicles);
     PrintScheduleHeading(u"SCHEDULED DELIVERIES"_s);
     PrintScheduleEntries();
     surface.EndJob();

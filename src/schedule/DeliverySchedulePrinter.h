@@ -11,14 +11,11 @@ public:
     DeliverySchedulePrinter(ScheduleBoard& scheduleBoard, PrinterRoutines& printerRoutines,
                             const LiveSettings& liveSettings, Operator& person);
 
-    /// The press of the print button: the schedule of the marked deliveries, if `printSchedule`.
-    void Print(bool printSchedule);
-
-    /// Leaves the last slip printed in the board's slip panel.
+    /// One job, on the printer as it was prepared. Leaves the last slip printed in the board's slip
+    /// panel.
     void PrintDeliverySchedule();
 
 private:
-    void PrintMarked(bool printSchedule);
     void PrintScheduleHeading(const QString& title);
     void PrintScheduleEntries();
     void PrintScheduleEntry(const QString& slipNo, const QString& chargeText);

@@ -1,6 +1,7 @@
 #include "schedule/InvoiceNumber.h"
 
 #include "store/Calendar.h"
+#include "store/Conversions.h"
 #include "store/TextLines.h"
 
 using namespace Qt::StringLiterals;
@@ -29,4 +30,9 @@ qint32 InvoiceNumber::LoadInvoiceNumber() {
 
 void InvoiceNumber::SaveInvoiceNumber(qint32 number) {
     RewriteFile(disk, invoiceNumberFile, {RecordLine().Number(number)});
+}
+
+void InvoiceNumber::AdvanceInvoiceNumber(const QString& shown) {
+    const QString where = u"advancing the invoice number"_s;
+    SaveInvoiceNumber(ToInt32(ToDouble(shown, where) + 1, where));
 }

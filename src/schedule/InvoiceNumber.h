@@ -12,6 +12,8 @@ public:
     /// The file is written back in every case.
     qint32 LoadInvoiceNumber();
     void SaveInvoiceNumber(qint32 number);
+    /// Saves the number behind the one shown. Fails behind 2,147,483,647, the last.
+    void AdvanceInvoiceNumber(const QString& shown);
 
 private:
     BasicDiskRoutines& disk;

@@ -5,11 +5,13 @@
 #include "platform/RuntimeFailure.h"
 
 /// The one handler of a printing error: whatever goes wrong throws the job away, tells the operator
-/// and leaves the program running. A cancelled job needs no telling.
+/// and leaves the program running. A cancelled job needs no telling. An EndingFailure goes through.
 template <typename Printing>
 void HandlePrintErrors(PrinterSurface& surface, Operator& user, Printing&& print) {
     try {
         print();
+    } catch (const EndingFailure&) {
+        throw;
     } catch (const RuntimeFailure& failure) {
         PassOver([&surface] { surface.AbandonJob(); });
         surface.DrawWidth = 1;

@@ -61,7 +61,7 @@ void ScheduleBoard::Initform(const QString& firstVehicle) {
     fraSlip = {};
     fraSlip.lblTotal = ZeroCurrencyText();
     fraSlip.lblCharge = ZeroCurrencyText();
-    fraSlip.lblInvoice = QString::number(invoiceNumber.LoadInvoiceNumber());
+    LoadInvoiceNumber();
     SetTaxOptions(settings, optTax);
     txtDeliveryCharge =
         settings.ckDeliveryCharge == 1 ? settings.txtDeliveryCharge : ZeroCurrencyText();
@@ -271,6 +271,14 @@ void ScheduleBoard::LoadSlipItems(const QString& slipNo) {
     }
     fraSlip.lblTotal = CurrencyText(reader.Text(), u"the total in "_s + name.mid(1));
     disk.CloseAllFiles();
+}
+
+void ScheduleBoard::LoadInvoiceNumber() {
+    fraSlip.lblInvoice = QString::number(invoiceNumber.LoadInvoiceNumber());
+}
+
+void ScheduleBoard::AdvanceInvoiceNumber() {
+    invoiceNumber.AdvanceInvoiceNumber(fraSlip.lblInvoice);
 }
 
 QString ScheduleBoard::PanelCaption() const {

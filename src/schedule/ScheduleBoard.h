@@ -86,6 +86,10 @@ public:
 
     /// Fills fraSlip and fgItems from the slip's two files.
     void LoadSlipPanel(const QString& slipNo);
+    /// Fills fraSlip.lblInvoice. Writes the number back.
+    void LoadInvoiceNumber();
+    /// The number shown stays until the next LoadInvoiceNumber.
+    void AdvanceInvoiceNumber();
     /// "Delivery Slip " and the slip table's entry at the position of the grid's current row. The
     /// table is in folder order and the grid in time order, so it need not be the row's slip; no
     /// number when there is no such entry.

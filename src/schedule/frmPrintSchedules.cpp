@@ -193,8 +193,7 @@ QWidget* frmPrintSchedules::MakePrintCard() {
     ckPrintWorkSchedule->setToolTip(u"If checked, Delivery List will Print"_s);
     ckPrintWorkSchedule->setChecked(true);
     ckMInvoices = Named(new QCheckBox(u"Print Invoices"_s), u"ckMInvoices"_s);
-    ckMInvoices->setToolTip(u"Not part of this version yet"_s);
-    ckMInvoices->setEnabled(false);
+    ckMInvoices->setToolTip(u"if checked, Invoices for selected Deliveries"_s);
     ckPopulated = Named(new QCheckBox(u"Populate Invoices"_s), u"ckPopulated"_s);
     ckPopulated->setToolTip(u"Unchecked- Prints Blank Invoices"_s);
     for (QCheckBox* box : {ckPrintWorkSchedule, ckMInvoices, ckPopulated})
@@ -475,8 +474,7 @@ void frmPrintSchedules::cmdPrint_Click(Button index) {
         cmdPrint_ClearCharge();
         break;
     case Print:
-        office.schedulePrinter.Print(ckPrintWorkSchedule->isChecked());
-        ShowSlip();
+        cmdPrint_Print();
         break;
     case CloseSlip:
         fraSlip->hide();
@@ -511,6 +509,20 @@ void frmPrintSchedules::cmdPrint_ClearCharge() {
     board.ClearCharge();
     ShowCharge();
     txtDeliveryCharge->setFocus();
+}
+
+void frmPrintSchedules::cmdPrint_Print() {
+    const auto showSlip = [this] {
+        fraInvoiceNo->show();
+        ShowSlip();
+    };
+    office.boardPrinting.Print({.ckPrintWorkSchedule = ckPrintWorkSchedule->isChecked(),
+                                .ckMInvoices = ckMInvoices->isChecked(),
+                                .ckPopulated = ckPopulated->isChecked()},
+                               {.showSlip = showSlip,
+                                .returnToMenu = [this] { cmdPrint_Click(ReturnToMenu); },
+                                .deselectAll = [this] { cmdPrint_Click(DeselectAll); }});
+    ShowSlip();
 }
 
 void frmPrintSchedules::cmdPrint_ToggleSlip() {

@@ -76,6 +76,7 @@ private:
     void cmdPrint_Click(Button index);
     void cmdPrint_EnterToGrid();
     void cmdPrint_ClearCharge();
+    void cmdPrint_Print();
     void cmdPrint_ToggleSlip();
 
     Office& office;

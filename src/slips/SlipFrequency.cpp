@@ -43,8 +43,10 @@ const FixedFrequency* FixedFrequencyOf(const QString& code) {
 }
 
 QDate NextTickedWeekday(const QString& code, QDate today) {
-    QDate date = today;
-    for (int weekday = WeekdayNumber(today);; weekday = weekday % daysInWeek + 1) {
+    // Without a ticked day the walk stops at nothing but the calendar's end, and so starts there.
+    const bool hasTickedDay = QStringView(code).left(daysInWeek).contains(u'1');
+    QDate date = hasTickedDay ? today : LastDateOfCalendar();
+    for (int weekday = WeekdayNumber(date);; weekday = weekday % daysInWeek + 1) {
         if (weekday <= code.size() && code[weekday - 1] == u'1')
             return date;
         date = DaysLater(date, 1);

@@ -13,7 +13,7 @@ QString FrequencyLabel(const QString& code);
 
 /// The next occurrence after `date`. A pattern of weekdays starts its walk at `today`, whatever the
 /// date, and today itself can be the answer. A code without any "1" runs into the end of the
-/// calendar, which is a failure of kind Overflow.
+/// calendar (see DaysLater).
 QDate NextOccurrence(QDate date, const QString& code, QDate today);
 
 /// The weekday correction of a step that lands on another weekday. The two offsets do not lead back

@@ -12,5 +12,9 @@ Office::Office(const QString& dataFolder, const Machine& theMachine)
       board(disk, slips, calendar, settings, machine.clock, machine.user),
       printer(machine.printer, settings), schedulePrinter(board, printer, settings, machine.user),
       invoicePrinter(printer, settings, logo, machine.clock),
+      invoicePosting(disk, items.ProductNames, machine.clock), accountLedger(disk, machine.clock),
+      invoiceRun(board, invoicePrinter, machine.printer, invoicePosting, accountLedger, slips,
+                 machine.clock, machine.user),
+      boardPrinting(board, printer, schedulePrinter, invoiceRun, slips, settings, machine.user),
       customerFiles(disk, machine.clock, machine.user),
       customers(disk, customerFiles, settings, machine.user, deliveryCustomer) {}

@@ -10,7 +10,11 @@
 #include "products/InventoriedItems.h"
 #include "products/NonInventoriedItems.h"
 #include "products/SalesItemLists.h"
+#include "schedule/AccountLedger.h"
+#include "schedule/BoardPrinting.h"
 #include "schedule/DeliverySchedulePrinter.h"
+#include "schedule/InvoicePosting.h"
+#include "schedule/InvoiceRun.h"
 #include "schedule/NXPrint.h"
 #include "schedule/PrinterRoutines.h"
 #include "schedule/ScheduleBoard.h"
@@ -64,6 +68,10 @@ public:
     PrinterRoutines printer;
     DeliverySchedulePrinter schedulePrinter;
     NXPrint invoicePrinter;
+    InvoicePosting invoicePosting;
+    AccountLedger accountLedger;
+    InvoiceRun invoiceRun;
+    BoardPrinting boardPrinting;
     CustomerFiles customerFiles;
     DeliveryCustomer deliveryCustomer;
     CustomerSelection customers;

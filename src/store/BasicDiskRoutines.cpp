@@ -265,7 +265,7 @@ void BasicDiskRoutines::CopyDataFile(const QString& from, const QString& to) {
     }
 }
 
-qint64 BasicDiskRoutines::LengthOf(const QString& name) const {
+qint64 BasicDiskRoutines::FileLength(const QString& name) const {
     struct stat status {};
     if (::fstatat(folder, PathOf(name).constData(), &status, 0) < 0)
         throw FailureFromErrno(errno, u"Measuring "_s + Shown(name));
@@ -275,7 +275,7 @@ qint64 BasicDiskRoutines::LengthOf(const QString& name) const {
 qint16 BasicDiskRoutines::RecordCount(const QString& name, qint16 recordLength) {
     if (!FileExists(name))
         return 0;
-    const double count = std::nearbyint(double(LengthOf(name)) / double(recordLength));
+    const double count = std::nearbyint(double(FileLength(name)) / double(recordLength));
     if (count > double(std::numeric_limits<qint16>::max()))
         throw RuntimeFailure(
             FailureKind::Overflow,

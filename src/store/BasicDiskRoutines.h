@@ -38,6 +38,8 @@ public:
     /// last part) matches by pattern, and brings back every copy that matches.
     bool FileExists(const QString& name);
     void CopyDataFile(const QString& from, const QString& to);
+    /// In bytes; a missing file is a failure.
+    qint64 FileLength(const QString& name) const;
     /// Records in a fixed-record file: its length divided by the record's, rounded to the nearest
     /// whole number, a tie to the even one. 0 when the file is missing; an overflow above 32,767.
     qint16 RecordCount(const QString& name, qint16 recordLength);
@@ -118,7 +120,6 @@ private:
     void Remove(const QString& name);
     qint16 OpenRecords(const QString& name, qint16 recordLength);
     Random& RandomOn(qint16 fileNumber);
-    qint64 LengthOf(const QString& name) const;
     void CopyFilesToBackup();
 
     QString dataFolder;

@@ -10,14 +10,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QDate lastDate(9999, 12, 31);
-
 constexpr int sunday = 1;
 constexpr int saturday = 7;
 
 QDate WithinCalendar(QDate date) {
-    if (!date.isValid() || date > lastDate)
-        throw RuntimeFailure(
+    if (!date.isValid() || date > LastDateOfCalendar())
+        throw EndingFailure(
             FailureKind::Overflow,
             u"Finding a delivery date failed: the calendar ends on 31 December 9999."_s);
     return date;
@@ -34,6 +32,10 @@ QString WeekdayName(int weekday) {
                                                  u"Wednesday"_s, u"Thursday"_s, u"Friday"_s,
                                                  u"Saturday"_s};
     return names.at(size_t(weekday - 1));
+}
+
+QDate LastDateOfCalendar() {
+    return {9999, 12, 31};
 }
 
 QDate DaysLater(QDate date, int days) {

@@ -19,8 +19,10 @@ int WeekdayNumber(QDate date);
 /// "Sunday" to "Saturday" for 1 to 7.
 QString WeekdayName(int weekday);
 
-/// The date `days` later. The calendar ends with 31 December 9999: a step beyond it is a failure
-/// of kind Overflow.
+/// 31 December 9999.
+QDate LastDateOfCalendar();
+/// The date `days` later. A step beyond the calendar's last date is a failure of kind Overflow that
+/// ends the program on every road, even where failures are passed over.
 QDate DaysLater(QDate date, int days);
 /// The same for calendar months: the day of the month stays, or falls to the target month's last.
 QDate MonthsLater(QDate date, int months);

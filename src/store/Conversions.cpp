@@ -260,3 +260,16 @@ QString NumberText(double number) {
     QString text = QString::number(number, 'g', significantDigits).toUpper();
     return text.replace(u'.', RegionalFormats::Current().DecimalMark());
 }
+
+QString NumberText(Currency amount) {
+    const qint64 value = amount.TenThousandths();
+    const quint64 count = value < 0 ? quint64(0) - quint64(value) : quint64(value);
+    QString text = QString::number(count / Currency::perUnit);
+    QString decimals =
+        QString::number(count % Currency::perUnit).rightJustified(currencyValueDecimals, u'0');
+    while (decimals.endsWith(u'0'))
+        decimals.chop(1);
+    if (!decimals.isEmpty())
+        text += RegionalFormats::Current().DecimalMark() + decimals;
+    return value < 0 ? u'-' + text : text;
+}

@@ -54,3 +54,5 @@ QString ShortDateText(QDate date);
 /// A number without grouping or trailing zeros, at most 15 significant digits, with the regional
 /// decimal mark.
 QString NumberText(double number);
+/// The same of an amount, with all its digits and never an exponent.
+QString NumberText(Currency amount);

@@ -111,3 +111,14 @@ void WriteRecord(BasicDiskRoutines& disk, qint16 fileNumber, qint32 recordNumber
     static_assert(std::is_trivially_copyable_v<Record> && alignof(Record) == 1);
     disk.WriteRecord(fileNumber, recordNumber, &record, sizeof(Record));
 }
+
+/// Adds a record behind the last of a file, which is made when it is missing, and closes all files.
+/// The record's number has 16 bits: behind 32,767 records it is an overflow.
+template <typename Record>
+void AppendRecord(BasicDiskRoutines& disk, const QString& name, const Record& record) {
+    const qint16 last = disk.RecordCount(name, sizeof(Record));
+    const qint16 number = ToInt16(last + 1.0, QStringLiteral("adding to ") + Shown(name));
+    disk.OpenRandom(name, sizeof(Record));
+    WriteRecord(disk, disk.DiskFile, number, record);
+    disk.CloseAllFiles();
+}

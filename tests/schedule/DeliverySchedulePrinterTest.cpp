@@ -29,9 +29,11 @@ protected:
         return slip;
     }
 
+    void Print() { office.boardPrinting.Print({.ckPrintWorkSchedule = true}, {}); }
+
     void PrintAll() {
         board.SelectAll();
-        office.schedulePrinter.Print(true);
+        Print();
     }
 
     void ExpectPrintError() {
@@ -163,64 +165,9 @@ TEST_F(DeliverySchedulePrinterTest, TwoSlipsOfOneCustomerPrintEachItsOwnCharge) 
     board.fgSchedule.SetText(1, int(ScheduleColumn::DeliveryCharge), u"$7.00"_s);
     board.fgSchedule.SetText(2, int(ScheduleColumn::DeliveryCharge), u"$1.50"_s);
     board.ToggleMark(1);
-    office.schedulePrinter.Print(true);
+    Print();
     EXPECT_EQ(TextsWith(u": 9220,"_s),
               (QStringList{u"1: 9220,3360 10b $7.00"_s, u"1: 9220,6240 10b $1.50"_s}));
-}
-
-TEST_F(DeliverySchedulePrinterTest, PrinterIsPreparedUprightInTheColourModeOfTheSettings) {
-    StoreSlip({.number = u"20260014"_s});
-    OpenBoard();
-    PrintAll();
-    office.settings.ckColor = 1;
-    PrintAll();
-    EXPECT_EQ(printer.Orientations,
-              (std::vector<Orientation>{Orientation::Portrait, Orientation::Portrait}));
-    EXPECT_EQ(printer.Colors, (std::vector<bool>{false, true}));
-}
-
-TEST_F(DeliverySchedulePrinterTest, WithoutTheScheduleTickedThePrinterIsPreparedAndNothingPrinted) {
-    StoreSlip({.number = u"20260014"_s});
-    OpenBoard();
-    board.SelectAll();
-    office.schedulePrinter.Print(false);
-    EXPECT_EQ(printer.Orientations.size(), 1U);
-    EXPECT_EQ(printer.FontName, u"Arial"_s);
-    EXPECT_TRUE(printer.Texts.empty());
-    EXPECT_EQ(printer.Jobs, 0);
-    EXPECT_EQ(printer.AbandonedJobs, 0);
-    EXPECT_TRUE(user.BusyChanges.empty());
-}
-
-TEST_F(DeliverySchedulePrinterTest, NothingMarkedIsToldAndNothingPrinted) {
-    StoreSlip({.number = u"20260014"_s});
-    OpenBoard();
-    board.lstWorkSchedule.setStringList({u"Corner Grocery"_s});
-    user.ExpectMessage(u"No Deliveries for Flatbed Truck on 3/16/2026 have been Selected"_s,
-                       u"No Deliveries"_s);
-    office.schedulePrinter.Print(true);
-    EXPECT_EQ(board.lstWorkSchedule.rowCount(), 0);
-    EXPECT_TRUE(printer.Orientations.empty());
-    EXPECT_TRUE(printer.Texts.empty());
-    EXPECT_EQ(printer.Jobs, 0);
-}
-
-TEST_F(DeliverySchedulePrinterTest, PercentSignInAVehicleNameIsTextInTheMessage) {
-    OpenBoard();
-    board.ChooseVehicle(u"100%2 Truck"_s);
-    user.ExpectMessage(u"No Deliveries for 100%2 Truck on 3/16/2026 have been Selected"_s,
-                       u"No Deliveries"_s);
-    office.schedulePrinter.Print(true);
-}
-
-TEST_F(DeliverySchedulePrinterTest, PrintingRebuildsTheWorkScheduleFromTheMarks) {
-    StoreSlip({.number = u"20260014"_s});
-    OpenBoard();
-    board.lstWorkSchedule.setStringList({u"Somebody Else"_s});
-    board.ToggleMark(1);
-    office.schedulePrinter.Print(true);
-    EXPECT_EQ(board.lstWorkSchedule.stringList(), QStringList{u"Corner Grocery"_s});
-    EXPECT_EQ(DrawnTexts(), head + firstEntry);
 }
 
 TEST_F(DeliverySchedulePrinterTest, BlocksComeInTimeOrder) {
@@ -239,7 +186,7 @@ TEST_F(DeliverySchedulePrinterTest, DeliveryWithoutAMarkIsNotPrinted) {
     StoreSlip({.number = u"2"_s, .customer = u"Morning Dairy"_s, .time = u"07.15am"_s});
     OpenBoard();
     board.ToggleMark(2);
-    office.schedulePrinter.Print(true);
+    Print();
     EXPECT_EQ(TextsWith(u"10b 01:00pm"_s), QStringList{u"1: 1440,2880 10b 01:00pm"_s});
     EXPECT_TRUE(TextsWith(u"07.15am"_s).isEmpty());
 }
@@ -249,7 +196,7 @@ TEST_F(DeliverySchedulePrinterTest, OneMarkPrintsEverySlipOfTheCustomerMarkedOrN
     StoreSlip({.number = u"2"_s, .time = u"07:00am"_s});
     OpenBoard();
     board.ToggleMark(2);
-    office.schedulePrinter.Print(true);
+    Print();
     EXPECT_EQ(TextsWith(u"10b 07:00am"_s), QStringList{u"1: 1440,2880 10b 07:00am"_s});
     EXPECT_EQ(TextsWith(u"10b 01:00pm"_s), QStringList{u"1: 1440,5760 10b 01:00pm"_s});
 }
@@ -301,7 +248,7 @@ TEST_F(DeliverySchedulePrinterTest, ApartmentOnEitherSideTakesALine) {
     slip.shipTo[2].clear();
     StoreSlip(slip);
     printer.Texts.clear();
-    office.schedulePrinter.Print(true);
+    Print();
     EXPECT_EQ(TextsWith(u",3840 "_s), QStringList{u"1: 1440,3840 10b Apt 3"_s});
     EXPECT_EQ(TextsWith(u"10b UNITS"_s), QStringList{u"1: 1440,4560 10b UNITS"_s});
 }
