@@ -1,6 +1,7 @@
 #include "platform/DesktopOperator.h"
 
 #include "platform/ColorNumber.h"
+#include "platform/PrinterDialog.h"
 #include "platform/ProgramTitle.h"
 
 #include <QApplication>
@@ -10,6 +11,7 @@
 #include <QFontDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPrinter>
 
 using namespace Qt::StringLiterals;
 
@@ -98,6 +100,16 @@ std::optional<QString> DesktopOperator::AskForFont(const QString& name) {
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return dialog.selectedFont().family();
+}
+
+std::optional<PrintDestination> DesktopOperator::AskForPrinter(const PrintDestination& destination,
+                                                               const QString& documentName) {
+    QPrinter printer;
+    PrinterDialog dialog(printer, destination, documentName, QApplication::activeWindow());
+    dialog.setObjectName(u"printerDialog"_s);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return dialog.Destination();
 }
 
 void DesktopOperator::Beep() {

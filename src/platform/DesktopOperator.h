@@ -11,6 +11,8 @@ public:
     std::optional<QString> AskForFile(const QString& filter) override;
     std::optional<quint32> AskForColor(quint32 color) override;
     std::optional<QString> AskForFont(const QString& name) override;
+    std::optional<PrintDestination> AskForPrinter(const PrintDestination& destination,
+                                                  const QString& documentName) override;
     void Beep() override;
     void ShowBusy(bool busy) override;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/PrintDestination.h"
+
 #include <QString>
 
 #include <optional>
@@ -29,6 +31,11 @@ public:
     virtual std::optional<quint32> AskForColor(quint32 color) = 0;
     /// Asks for the name of a font that a printer can print; nothing when the operator cancels.
     virtual std::optional<QString> AskForFont(const QString& name) = 0;
+    /// Asks where to print, starting from a destination: the printer and the copies that the dialog
+    /// was left with, or the file when the operator prints into one. Nothing when he cancels. The
+    /// file that is proposed is named after the document.
+    virtual std::optional<PrintDestination> AskForPrinter(const PrintDestination& destination,
+                                                          const QString& documentName) = 0;
 
     virtual void Beep() = 0;
 

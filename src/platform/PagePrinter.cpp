@@ -1,6 +1,7 @@
 #include "platform/PagePrinter.h"
 
 #include "platform/ColorNumber.h"
+#include "platform/PrintedDocuments.h"
 #include "platform/RuntimeFailure.h"
 
 #include <QBuffer>
@@ -10,13 +11,14 @@
 #include <QPdfWriter>
 #include <QPrinterInfo>
 #include <QProcess>
-#include <QStandardPaths>
 #include <QTemporaryFile>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <optional>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
@@ -53,18 +55,20 @@ QImage InGrey(const QImage& image) {
     return onPaper.convertToFormat(QImage::Format_Grayscale8);
 }
 
-/// Empty when the machine has no printer.
-QString PrinterToUse() {
+/// Empty when none was chosen and the machine has no printer.
+QString PrinterToUse(const QString& chosen) {
+    if (!chosen.isEmpty())
+        return chosen;
     const QString name = QPrinterInfo::defaultPrinterName();
     return name.isEmpty() ? QPrinterInfo::availablePrinterNames().value(0) : name;
 }
 
-void SendToPrinter(const QString& printer, const QString& title, bool inColor,
+void SendToPrinter(const QString& printer, int copies, const QString& title, bool inColor,
                    const QByteArray& pdf) {
     const QString operation = u"Sending \"%1\" to the printer %2"_s.arg(title, printer);
     QProcess lp;
-    lp.start(u"lp"_s, {u"-d"_s, printer, u"-t"_s, title, u"-o"_s, u"media=Letter"_s, u"-o"_s,
-                       u"print-scaling=none"_s, u"-o"_s,
+    lp.start(u"lp"_s, {u"-d"_s, printer, u"-n"_s, QString::number(copies), u"-t"_s, title, u"-o"_s,
+                       u"media=Letter"_s, u"-o"_s, u"print-scaling=none"_s, u"-o"_s,
                        inColor ? u"print-color-mode=color"_s : u"print-color-mode=monochrome"_s});
     lp.write(pdf);
     lp.closeWriteChannel();
@@ -76,15 +80,6 @@ void SendToPrinter(const QString& printer, const QString& title, bool inColor,
     }
     if (lp.exitStatus() != QProcess::NormalExit || lp.exitCode() != 0)
         throw Failed(operation, QString::fromLocal8Bit(lp.readAllStandardError()));
-}
-
-/// The first of "name.pdf", "name (2).pdf", "name (3).pdf" ... that is not taken.
-QString FreePath(const QString& folder, const QString& title) {
-    const QString name = folder + u'/' + QString(title).replace(u'/', u'-');
-    QString path = name + u".pdf"_s;
-    for (int number = 2; QFileInfo::exists(path); ++number)
-        path = name + u" ("_s + QString::number(number) + u").pdf"_s;
-    return path;
 }
 
 /// Writes the whole of it or fails, with the reason of the first write that came back short.
@@ -103,24 +98,36 @@ void WriteWhole(QTemporaryFile& file, const QByteArray& bytes, const QString& op
         throw Failed(operation, QString::fromLocal8Bit(std::strerror(errno)));
 }
 
-/// Puts the document under the user's documents, and says where. It gets its name when all of it
-/// has been written.
+/// The rights that a new file of the user has; a temporary one begins with fewer.
+mode_t UsualRights() {
+    const mode_t kept = ::umask(0);
+    ::umask(kept);
+    return 0666 & ~kept;
+}
+
+/// Writes the document over what is at the path. It gets its name when all of it has been written.
+void WriteDocument(const QString& path, const QByteArray& pdf) {
+    const QString operation = u"Writing the document "_s + path;
+    QTemporaryFile file(QFileInfo(path).path() + u"/.XXXXXX.pdf"_s);
+    if (!file.open())
+        throw Failed(operation, file.errorString());
+    WriteWhole(file, pdf, operation);
+    if (::fchmod(file.handle(), UsualRights()) != 0 ||
+        ::rename(QFile::encodeName(file.fileName()).constData(),
+                 QFile::encodeName(path).constData()) != 0)
+        throw Failed(operation, QString::fromLocal8Bit(std::strerror(errno)));
+    file.setAutoRemove(false);
+}
+
+/// Puts the document under the user's documents, and says where.
 QString StoreDocument(const QString& title, const QByteArray& pdf) {
-    const QString folder =
-        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u'/' + programName;
+    const QString folder = PrintedDocumentsFolder();
     std::error_code error;
     std::filesystem::create_directories(QFile::encodeName(folder).toStdString(), error);
     if (error)
         throw Failed(u"Making the folder "_s + folder, QString::fromStdString(error.message()));
-    QString path = FreePath(folder, title);
-    const QString operation = u"Writing the document "_s + path;
-    QTemporaryFile file(folder + u"/.XXXXXX.pdf"_s);
-    if (!file.open())
-        throw Failed(operation, file.errorString());
-    WriteWhole(file, pdf, operation);
-    if (!file.rename(path))
-        throw Failed(operation, file.errorString());
-    file.setAutoRemove(false);
+    const QString path = FreePath(PrintedDocumentPath(title));
+    WriteDocument(path, pdf);
     return path;
 }
 
@@ -315,12 +322,22 @@ void PagePrinter::EndJob() {
     const std::unique_ptr<Job> ended = TakeJob();
     if (!ended || !ended->IsDrawnOn())
         return;
-    const QByteArray pdf = ended->Finished();
-    const QString printer = PrinterToUse();
+    Send(*ended, ended->Finished());
+    ++sentJobs;
+}
+
+void PagePrinter::Send(const Job& ended, const QByteArray& pdf) {
+    const auto& [chosen, file, copies] = Destination();
+    // The operator has been asked about the file that he named, but not about those beside it.
+    if (!file.isEmpty()) {
+        WriteDocument(sentJobs == 0 ? file : FreePath(file), pdf);
+        return;
+    }
+    const QString printer = PrinterToUse(chosen);
     if (printer.isEmpty())
-        openDocument(StoreDocument(ended->Title, pdf));
+        openDocument(StoreDocument(ended.Title, pdf));
     else
-        SendToPrinter(printer, ended->Title, ended->InColor, pdf);
+        SendToPrinter(printer, copies, ended.Title, ended.InColor, pdf);
 }
 
 void PagePrinter::AbandonJob() {

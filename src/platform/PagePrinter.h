@@ -5,9 +5,10 @@
 #include <functional>
 #include <memory>
 
-/// Prints on the machine's default printer. Where the machine has no printer, each job becomes a
-/// PDF in "Tessel Delivery" under the user's documents folder, and is opened for the operator to
-/// look at.
+/// Prints on the printer or into the file of its destination, else on the machine's default
+/// printer. Where the machine has no printer, each job becomes a PDF in "Tessel Delivery" under the
+/// user's documents folder, and is opened for the operator to look at; a file that he has named
+/// himself is not.
 ///
 /// A job is drawn in memory and leaves the program whole when it ends, so an abandoned or failed
 /// one leaves nothing behind. That is why no QPrinter stands here: it can't take back a page that
@@ -50,6 +51,7 @@ private:
     Job& JobInHand();
     Job& JobWithFont();
     std::unique_ptr<Job> TakeJob();
+    void Send(const Job& ended, const QByteArray& pdf);
 
     DocumentOpener openDocument;
     Orientation pageOrientation = Orientation::Portrait;

@@ -1,5 +1,14 @@
 #include "platform/PrinterSurface.h"
 
+void PrinterSurface::SendTo(const PrintDestination& chosen) {
+    destination = chosen;
+    sentJobs = 0;
+}
+
+void PrinterSurface::EndCommand() {
+    SendTo({.Printer = destination.Printer});
+}
+
 void PrinterSurface::PrintLine(const QString& text) {
     Print(text);
     CurrentX = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Picture.h"
+#include "platform/PrintDestination.h"
 
 #include <QByteArray>
 #include <QString>
@@ -29,6 +30,15 @@ public:
     /// What a job is called in the print queue, or in the folder that it is stored in. To be set
     /// before anything of the job is measured or drawn.
     QString JobName;
+
+    /// Where jobs go: the machine's default printer until the operator chooses another.
+    const PrintDestination& Destination() const { return destination; }
+    /// For the jobs of one command. Of several that go into a file, the first takes its place, and
+    /// those behind it stand beside it as "name (2).pdf", "name (3).pdf".
+    void SendTo(const PrintDestination& chosen);
+    /// What was chosen for this command alone, the file and the copies, goes with it. The printer
+    /// stays for the run, also for what is printed without asking.
+    void EndCommand();
 
     /// Letter paper the given way round; what is printed from here on is a new job unless one has
     /// been begun.
@@ -67,4 +77,10 @@ public:
 
 protected:
     virtual void DrawText(double x, double y, const QString& text) = 0;
+
+    /// How many jobs have gone to the present destination.
+    int sentJobs = 0;
+
+private:
+    PrintDestination destination;
 };

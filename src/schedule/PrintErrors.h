@@ -5,9 +5,12 @@
 #include "platform/RuntimeFailure.h"
 
 /// The one handler of a printing error: whatever goes wrong throws the job away, tells the operator
-/// and leaves the program running. A cancelled job needs no telling. An EndingFailure goes through.
+/// and leaves the program running. A cancelled job needs no telling, unless the command has words
+/// for it. With the command ends what was chosen for it in the printer dialog. An EndingFailure
+/// goes through.
 template <typename Printing>
-void HandlePrintErrors(PrinterSurface& surface, Operator& user, Printing&& print) {
+void HandlePrintErrors(PrinterSurface& surface, Operator& user, Printing&& print,
+                       const QString& whenCancelled = {}) {
     try {
         print();
     } catch (const EndingFailure&) {
@@ -18,5 +21,8 @@ void HandlePrintErrors(PrinterSurface& surface, Operator& user, Printing&& print
         if (failure.Kind() != FailureKind::PrintCancelled)
             user.MsgBox(QStringLiteral("A Print Error has occurred"), Buttons::Ok,
                         QStringLiteral("Print Error"));
+        else if (!whenCancelled.isEmpty())
+            user.MsgBox(whenCancelled);
     }
+    surface.EndCommand();
 }

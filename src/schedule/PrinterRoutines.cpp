@@ -1,6 +1,9 @@
 #include "schedule/PrinterRoutines.h"
 
+#include "platform/RuntimeFailure.h"
 #include "setup/AddressStyle.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -13,8 +16,23 @@ constexpr int wrapMargin = 20;
 
 } // namespace
 
-PrinterRoutines::PrinterRoutines(PrinterSurface& printerSurface, LiveSettings& liveSettings)
-    : surface(printerSurface), settings(liveSettings) {}
+PrinterRoutines::PrinterRoutines(PrinterSurface& printerSurface, LiveSettings& liveSettings,
+                                 Operator& person)
+    : surface(printerSurface), settings(liveSettings), user(person) {}
+
+void PrinterRoutines::AskForPrinter() {
+    const QString printer = surface.Destination().Printer;
+    std::optional<PrintDestination> chosen = user.AskForPrinter(
+        {.Printer = printer, .Copies = std::max<int>(settings.printDialogCopies, 1)},
+        surface.JobName);
+    if (!chosen)
+        throw RuntimeFailure(FailureKind::PrintCancelled,
+                             u"Printing \"%1\" was cancelled."_s.arg(surface.JobName));
+    // A file is no choice of another printer.
+    if (!chosen->File.isEmpty())
+        chosen->Printer = printer;
+    surface.SendTo(*chosen);
+}
 
 void PrinterRoutines::PreparePrinter(Orientation orientation, bool inColor) {
     surface.SetPage(orientation, inColor);

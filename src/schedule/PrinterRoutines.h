@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Operator.h"
 #include "platform/PrinterSurface.h"
 #include "setup/LiveSettings.h"
 
@@ -9,12 +10,16 @@ enum class PrintColor : qint16 { Text = -1, Border = 0 };
 /// wrapped text and the business heading.
 class PrinterRoutines {
 public:
-    PrinterRoutines(PrinterSurface& printerSurface, LiveSettings& liveSettings);
+    PrinterRoutines(PrinterSurface& printerSurface, LiveSettings& liveSettings, Operator& person);
 
     PrinterSurface& Surface() { return surface; }
     /// The colour last chosen, 0x00BBGGRR.
     quint32 CurrentPrintColor() const { return settings.CurrentPrintColor; }
 
+    /// Asks where the command that is about to print is to print, with the copies of the print
+    /// settings. To be called within HandlePrintErrors, which ends the choice along with the
+    /// command. The operator's Cancel is a failure of kind PrintCancelled.
+    void AskForPrinter();
     /// Letter paper, the document font in black, no bold, no underline.
     void PreparePrinter(Orientation orientation, bool inColor);
     /// Inches. A value of zero or less leaves its axis alone.
@@ -37,4 +42,5 @@ private:
 
     PrinterSurface& surface;
     LiveSettings& settings;
+    Operator& user;
 };

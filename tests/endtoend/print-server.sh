@@ -9,7 +9,8 @@
 #
 # All of it lives in the given folder, which must be there: settings, socket, spool, logs, and the
 # printed jobs in "$folder/printed". The machine's own print server is neither used nor touched.
-# There is one queue, "PDF", which is the default printer and takes jobs through the usual filters.
+# There are two queues, "PDF", which is the default printer, and "Laser". Both take jobs through the
+# usual filters.
 #
 # Its back end is a script that stores what comes out of the filters: the machine's own PDF back
 # end knows no other settings than those in /etc, and would print into the user's home.
@@ -132,6 +133,14 @@ Accepting Yes
 Shared No
 ErrorPolicy abort-job
 </DefaultPrinter>
+<Printer Laser>
+Info Laser
+DeviceURI folder:/printed
+State Idle
+Accepting Yes
+Shared No
+ErrorPolicy abort-job
+</Printer>
 END
         cat >"$PrintServerFolder/root/ppd/PDF.ppd" <<'END'
 *PPD-Adobe: "4.3"
@@ -177,6 +186,7 @@ END
 *ColorModel Gray/Grey: ""
 *CloseUI: *ColorModel
 END
+    cp "$PrintServerFolder/root/ppd/PDF.ppd" "$PrintServerFolder/root/ppd/Laser.ppd"
 }
 
 WritePrintServerBackEnd() {
@@ -188,7 +198,7 @@ if (($# == 0)); then
     echo 'direct folder "Unknown" "A folder"'
     exit
 fi
-echo "$5" >"$printed/$1.options"
+echo "$5 printer=$PRINTER" >"$printed/$1.options"
 part=$printed/$1.part
 cat "${6:--}" >"$part" && mv "$part" "$printed/$1 ${3//\//-}.pdf"
 END

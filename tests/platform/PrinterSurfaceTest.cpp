@@ -36,6 +36,23 @@ TEST_F(PrinterSurfaceTest, LineIsPrintedAtThePenWhichGoesToTheLeftEdgeOfTheNextL
     ExpectPenAt(0, 1240);
 }
 
+TEST_F(PrinterSurfaceTest, JobsGoToTheDefaultPrinterOnceUntilTheOperatorChooses) {
+    EXPECT_EQ(printer.Destination().Printer, QString());
+    EXPECT_EQ(printer.Destination().File, QString());
+    EXPECT_EQ(printer.Destination().Copies, 1);
+}
+
+TEST_F(PrinterSurfaceTest, FileAndCopiesEndWithTheCommandAndThePrinterStays) {
+    printer.SendTo({.Printer = u"Laser"_s, .File = u"/tmp/a.pdf"_s, .Copies = 4});
+    EXPECT_EQ(printer.Destination().Printer, u"Laser"_s);
+    EXPECT_EQ(printer.Destination().File, u"/tmp/a.pdf"_s);
+    EXPECT_EQ(printer.Destination().Copies, 4);
+    printer.EndCommand();
+    EXPECT_EQ(printer.Destination().Printer, u"Laser"_s);
+    EXPECT_EQ(printer.Destination().File, QString());
+    EXPECT_EQ(printer.Destination().Copies, 1);
+}
+
 TEST_F(PrinterSurfaceTest, EmptyLineMovesThePenAndDrawsNothing) {
     printer.PrintLine();
     EXPECT_TRUE(printer.Texts.empty());

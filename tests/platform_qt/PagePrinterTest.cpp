@@ -423,6 +423,121 @@ TEST_F(PagePrinterTest, ASlashInTheNameIsNoFolder) {
     EXPECT_EQ(Documents(), QStringList{u"Schedule 3-9-2026.pdf"_s});
 }
 
+TEST_F(PagePrinterTest, AFileThatWasChosenIsWrittenAndNotOpened) {
+    folder.MakeFolder(u"Own"_s);
+    printer.JobName = u"Invoice 7"_s;
+    printer.SendTo({.File = folder.PathOf(u"Own/chosen.pdf"_s), .Copies = 3});
+    PrintOnePage();
+    EXPECT_TRUE(opened.isEmpty());
+    EXPECT_FALSE(folder.Has(u"Papers"_s));
+    const PrintedPages pages(folder.PathOf(u"Own/chosen.pdf"_s));
+    EXPECT_EQ(pages.Count(), 1);
+    EXPECT_EQ(pages.Words(1), QStringList{u"Page"_s});
+    EXPECT_EQ(pages.Property(u"Title"_s), u"Invoice 7"_s);
+    EXPECT_EQ(folder.Everything().filter(u"Own/"_s), (QStringList{u"Own/"_s, u"Own/chosen.pdf"_s}));
+}
+
+TEST_F(PagePrinterTest, AFileThatWasChosenIsWrittenOver) {
+    folder.Write(u"chosen.pdf"_s, QByteArray(100'000, 'x'));
+    printer.SendTo({.File = folder.PathOf(u"chosen.pdf"_s)});
+    PrintOnePage();
+    EXPECT_TRUE(folder.Read(u"chosen.pdf"_s).startsWith("%PDF-"));
+    EXPECT_LT(folder.Read(u"chosen.pdf"_s).size(), 100'000);
+    EXPECT_FALSE(folder.Has(u"chosen (2).pdf"_s));
+}
+
+TEST_F(PagePrinterTest, FurtherDocumentsOfTheCommandStandBesideItAndOverwriteNothing) {
+    folder.Write(u"chosen (3).pdf"_s, "kept");
+    printer.SendTo({.File = folder.PathOf(u"chosen.pdf"_s)});
+    for (const QString& text : {u"One"_s, u"Two"_s, u"Three"_s}) {
+        printer.Print(text);
+        printer.EndJob();
+    }
+    EXPECT_EQ(PrintedPages(folder.PathOf(u"chosen.pdf"_s)).Words(1), QStringList{u"One"_s});
+    EXPECT_EQ(PrintedPages(folder.PathOf(u"chosen (2).pdf"_s)).Words(1), QStringList{u"Two"_s});
+    EXPECT_EQ(folder.Read(u"chosen (3).pdf"_s), "kept");
+    EXPECT_EQ(PrintedPages(folder.PathOf(u"chosen (4).pdf"_s)).Words(1), QStringList{u"Three"_s});
+}
+
+TEST_F(PagePrinterTest, AFileWithoutADotIsNumberedBehindItsName) {
+    folder.MakeFolder(u"Own.papers"_s);
+    printer.SendTo({.File = folder.PathOf(u"Own.papers/chosen"_s)});
+    PrintOnePage();
+    PrintOnePage();
+    EXPECT_TRUE(folder.Has(u"Own.papers/chosen"_s));
+    EXPECT_TRUE(folder.Has(u"Own.papers/chosen (2)"_s));
+}
+
+TEST_F(PagePrinterTest, TheSameFileChosenByTheNextCommandIsWrittenOver) {
+    for (const QString& text : {u"One"_s, u"Two"_s}) {
+        printer.SendTo({.File = folder.PathOf(u"chosen.pdf"_s)});
+        printer.Print(text);
+        printer.EndJob();
+        printer.EndCommand();
+    }
+    EXPECT_EQ(PrintedPages(folder.PathOf(u"chosen.pdf"_s)).Words(1), QStringList{u"Two"_s});
+    EXPECT_FALSE(folder.Has(u"chosen (2).pdf"_s));
+}
+
+TEST_F(PagePrinterTest, BehindTheCommandTheNextJobIsADocumentAgain) {
+    printer.SendTo({.File = folder.PathOf(u"chosen.pdf"_s)});
+    PrintOnePage();
+    printer.EndCommand();
+    PrintOnePage();
+    EXPECT_EQ(Documents(), QStringList{u"Tessel Delivery.pdf"_s});
+    EXPECT_EQ(opened.size(), 1);
+}
+
+TEST_F(PagePrinterTest, ADocumentHasTheRightsOfTheUsersOtherFiles) {
+    folder.Write(u"other"_s, "x");
+    printer.SendTo({.File = folder.PathOf(u"chosen.pdf"_s)});
+    PrintOnePage();
+    EXPECT_EQ(QFile::permissions(folder.PathOf(u"chosen.pdf"_s)),
+              QFile::permissions(folder.PathOf(u"other"_s)));
+}
+
+TEST_F(PagePrinterTest, AChosenFileInAFolderThatIsGoneFails) {
+    printer.SendTo({.File = folder.PathOf(u"Gone/chosen.pdf"_s)});
+    printer.Print(u"Page"_s);
+    EXPECT_EQ(FailureOfEndJob(), u"Writing the document %1 failed: No such file or directory"_s.arg(
+                                     folder.PathOf(u"Gone/chosen.pdf"_s)));
+    EXPECT_FALSE(folder.Has(u"Gone"_s));
+}
+
+TEST_F(PagePrinterTest, AFullDiskLeavesTheChosenFileAsItWas) {
+    folder.Write(u"chosen.pdf"_s, "kept");
+    printer.SendTo({.File = folder.PathOf(u"chosen.pdf"_s)});
+    printer.Print(u"Page"_s);
+    const QStringList before = folder.Everything();
+    {
+        const FullDisk disk(1000);
+        EXPECT_EQ(FailureOfEndJob(), u"Writing the document %1 failed: File too large"_s.arg(
+                                         folder.PathOf(u"chosen.pdf"_s)));
+    }
+    EXPECT_EQ(folder.Read(u"chosen.pdf"_s), "kept");
+    EXPECT_EQ(folder.Everything(), before);
+}
+
+TEST_F(PagePrinterTest, AFolderInThePlaceOfTheChosenFileFailsAndStays) {
+    folder.Write(u"chosen.pdf/inside"_s, "kept");
+    printer.SendTo({.File = folder.PathOf(u"chosen.pdf"_s)});
+    printer.Print(u"Page"_s);
+    const QStringList before = folder.Everything();
+    EXPECT_EQ(FailureOfEndJob(), u"Writing the document %1 failed: Is a directory"_s.arg(
+                                     folder.PathOf(u"chosen.pdf"_s)));
+    EXPECT_EQ(folder.Everything(), before);
+}
+
+TEST_F(PagePrinterTest, AChosenPrinterOnAMachineWithoutOneFails) {
+    printer.SendTo({.Printer = u"Laser"_s});
+    printer.Print(u"Page"_s);
+    const QString failure = FailureOfEndJob();
+    EXPECT_TRUE(failure.startsWith(u"Sending \"Tessel Delivery\" to the printer Laser failed: "_s))
+        << failure.toStdString();
+    EXPECT_TRUE(opened.isEmpty());
+    EXPECT_FALSE(folder.Has(u"Papers"_s));
+}
+
 TEST_F(PagePrinterTest, NothingIsStoredBeforeTheJobEnds) {
     printer.Print(u"Page"_s);
     printer.NewPage();

@@ -1,10 +1,20 @@
 #include "PrintedPages.h"
+#include "platform/DesktopOperator.h"
 #include "platform/PagePrinter.h"
 #include "support/OfficeTest.h"
 
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QLineEdit>
 #include <QProcess>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTimer>
 
+#include <functional>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -184,4 +194,167 @@ TEST_F(PrintServerTest, ALandscapePageComesOutOnPaperTurnedToTheRight) {
     EXPECT_EQ(pages.Property(u"Page size"_s), u"612 x 792 pts (letter)"_s);
     EXPECT_NEAR(pages.PlaceOf(u"Corner"_s).top(), 10.0, nearby);
     EXPECT_NEAR(pages.PlaceOf(u"Corner"_s).right(), 0.5, nearby);
+}
+
+// The operator's choice.
+
+TEST_F(PrintServerTest, AJobGoesToTheChosenPrinterWithItsCopies) {
+    printer.SendTo({.Printer = u"Laser"_s, .Copies = 3});
+    printer.Print(u"Page"_s);
+    printer.EndJob();
+    const PrintedPages pages = OnlyPrintedJob();
+    EXPECT_TRUE(OptionsOfJob(1).contains(u"printer=Laser"_s));
+    // The filters make the copies, one page after the other.
+    EXPECT_EQ(pages.Count(), 3);
+}
+
+TEST_F(PrintServerTest, WithoutAChoiceAJobGoesOnceToTheDefaultPrinter) {
+    printer.Print(u"Page"_s);
+    printer.EndJob();
+    const PrintedPages pages = OnlyPrintedJob();
+    EXPECT_TRUE(OptionsOfJob(1).contains(u"printer=PDF"_s));
+    EXPECT_EQ(pages.Count(), 1);
+}
+
+TEST_F(PrintServerTest, BehindTheCommandJobsGoOnceToTheSamePrinter) {
+    printer.SendTo({.Printer = u"Laser"_s, .Copies = 2});
+    printer.Print(u"Asked"_s);
+    printer.EndJob();
+    printer.EndCommand();
+    printer.Print(u"Unasked"_s);
+    printer.EndJob();
+    Order("WaitForPrintedJobs 2");
+    EXPECT_TRUE(OptionsOfJob(2).contains(u"printer=Laser"_s));
+    const PrintedPages unasked(folder.PathOf(u"printed/2 Tessel Delivery.pdf"_s));
+    EXPECT_EQ(unasked.Count(), 1);
+    EXPECT_EQ(unasked.Words(1), QStringList{u"Unasked"_s});
+}
+
+TEST_F(PrintServerTest, AChosenFileIsWrittenThoughThereIsAPrinter) {
+    printer.SendTo({.File = folder.PathOf(u"chosen.pdf"_s)});
+    printer.Print(u"Page"_s);
+    printer.EndJob();
+    EXPECT_EQ(PrintedPages(folder.PathOf(u"chosen.pdf"_s)).Words(1), QStringList{u"Page"_s});
+    EXPECT_TRUE(PrintedJobs().isEmpty());
+}
+
+TEST_F(PrintServerTest, AChosenPrinterThatIsGoneFails) {
+    printer.SendTo({.Printer = u"Gone"_s});
+    printer.Print(u"Page"_s);
+    const RuntimeFailure failure = FailureOf([this] { printer.EndJob(); });
+    EXPECT_EQ(failure.Kind(), FailureKind::PrinterFailure);
+    EXPECT_TRUE(failure.Sentence().startsWith(
+        u"Sending \"Tessel Delivery\" to the printer Gone failed: "_s))
+        << failure.what();
+    EXPECT_TRUE(PrintedJobs().isEmpty());
+}
+
+/// The operator at the printer dialog of a machine with two printers.
+class PrinterDialogTest : public PrintServerTest {
+protected:
+    PrinterDialogTest() {
+        folder.Write(u"config/user-dirs.dirs"_s,
+                     "XDG_DOCUMENTS_DIR=\"" + folder.PathOf(u"Papers"_s).toUtf8() + "\"\n");
+    }
+
+    using Act = std::function<void(QDialog&)>;
+    static std::optional<PrintDestination> AnswerAt(const PrintDestination& openedWith,
+                                                    const Act& act) {
+        int shown = 0;
+        QTimer::singleShot(0, qApp, [&] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (dialog) {
+                ++shown;
+                act(*dialog);
+                dialog->close();
+            }
+        });
+        DesktopOperator user;
+        const auto answer = user.AskForPrinter(openedWith, u"Stock list"_s);
+        EXPECT_EQ(shown, 1);
+        return answer;
+    }
+    static void Press(const QDialog& dialog, QDialogButtonBox::ButtonRole role) {
+        const auto* buttons = dialog.findChild<QDialogButtonBox*>();
+        for (QAbstractButton* button : buttons->buttons()) {
+            if (buttons->buttonRole(button) == role)
+                button->click();
+        }
+    }
+    static QComboBox& Printers(const QDialog& dialog) {
+        return *dialog.findChild<QComboBox*>(u"printers"_s);
+    }
+};
+
+TEST_F(PrinterDialogTest, OpensAtTheDefaultPrinterWithTheCopiesAndOffersNothingWithoutEffect) {
+    const auto answer = AnswerAt({.Copies = 4}, [](QDialog& dialog) {
+        EXPECT_EQ(Printers(dialog).currentText(), u"PDF"_s);
+        EXPECT_GE(Printers(dialog).findText(u"Laser"_s), 0);
+        auto* copies = dialog.findChild<QSpinBox*>(u"copies"_s);
+        EXPECT_TRUE(copies->isVisible());
+        EXPECT_TRUE(copies->isEnabled());
+        EXPECT_EQ(copies->value(), 4);
+        for (const QString& name : {u"gbPrintRange"_s, u"collate"_s, u"reverse"_s, u"properties"_s,
+                                    u"colorMode"_s, u"duplex"_s})
+            EXPECT_FALSE(dialog.findChild<QWidget*>(name)->isVisible()) << name.toStdString();
+        int visibleButtons = 0;
+        for (const QAbstractButton* button : dialog.findChild<QDialogButtonBox*>()->buttons())
+            visibleButtons += button->isVisible() ? 1 : 0;
+        EXPECT_EQ(visibleButtons, 2);
+        Press(dialog, QDialogButtonBox::AcceptRole);
+    });
+    EXPECT_EQ(answer, (PrintDestination{.Printer = u"PDF"_s, .Copies = 4}));
+    EXPECT_FALSE(folder.Has(u"Papers"_s));
+}
+
+TEST_F(PrinterDialogTest, OpensAtThePrinterChosenLast) {
+    const auto answer = AnswerAt({.Printer = u"Laser"_s}, [](QDialog& dialog) {
+        EXPECT_EQ(Printers(dialog).currentText(), u"Laser"_s);
+        Press(dialog, QDialogButtonBox::AcceptRole);
+    });
+    EXPECT_EQ(answer, (PrintDestination{.Printer = u"Laser"_s, .Copies = 1}));
+}
+
+TEST_F(PrinterDialogTest, OpensAtTheDefaultPrinterWhenTheOneChosenLastIsGone) {
+    const auto answer = AnswerAt({.Printer = u"Gone"_s}, [](QDialog& dialog) {
+        EXPECT_EQ(Printers(dialog).currentText(), u"PDF"_s);
+        Press(dialog, QDialogButtonBox::AcceptRole);
+    });
+    EXPECT_EQ(answer, (PrintDestination{.Printer = u"PDF"_s, .Copies = 1}));
+}
+
+TEST_F(PrinterDialogTest, AnotherPrinterAndOtherCopiesAreTheAnswer) {
+    const auto answer = AnswerAt({.Copies = 3}, [](QDialog& dialog) {
+        Printers(dialog).setCurrentIndex(Printers(dialog).findText(u"Laser"_s));
+        dialog.findChild<QSpinBox*>(u"copies"_s)->setValue(6);
+        Press(dialog, QDialogButtonBox::AcceptRole);
+    });
+    EXPECT_EQ(answer, (PrintDestination{.Printer = u"Laser"_s, .Copies = 6}));
+}
+
+TEST_F(PrinterDialogTest, PrintingIntoAFileProposesOneAmongTheDocumentsAndHasNoCopies) {
+    const QString proposed = folder.PathOf(u"Papers/Tessel Delivery/Stock list.pdf"_s);
+    const auto answer = AnswerAt({.Copies = 3}, [&](QDialog& dialog) {
+        Printers(dialog).setCurrentIndex(Printers(dialog).count() - 1);
+        EXPECT_EQ(dialog.findChild<QLineEdit*>(u"filename"_s)->text(), proposed);
+        EXPECT_FALSE(dialog.findChild<QSpinBox*>(u"copies"_s)->isEnabled());
+        Press(dialog, QDialogButtonBox::AcceptRole);
+    });
+    EXPECT_EQ(answer, PrintDestination{.File = proposed});
+}
+
+TEST_F(PrinterDialogTest, BackFromAFileThePrinterIsTheAnswer) {
+    const auto answer = AnswerAt({.Copies = 3}, [](QDialog& dialog) {
+        Printers(dialog).setCurrentIndex(Printers(dialog).count() - 1);
+        Printers(dialog).setCurrentIndex(Printers(dialog).findText(u"Laser"_s));
+        EXPECT_TRUE(dialog.findChild<QSpinBox*>(u"copies"_s)->isEnabled());
+        Press(dialog, QDialogButtonBox::AcceptRole);
+    });
+    EXPECT_EQ(answer, (PrintDestination{.Printer = u"Laser"_s, .Copies = 3}));
+}
+
+TEST_F(PrinterDialogTest, CancelGivesNothing) {
+    const auto answer =
+        AnswerAt({}, [](QDialog& dialog) { Press(dialog, QDialogButtonBox::RejectRole); });
+    EXPECT_EQ(answer, std::nullopt);
 }

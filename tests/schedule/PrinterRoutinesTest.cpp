@@ -1,5 +1,6 @@
 #include "schedule/PrinterRoutines.h"
 
+#include "schedule/PrintErrors.h"
 #include "schedule/ScheduleTest.h"
 
 using namespace Qt::StringLiterals;
@@ -291,4 +292,102 @@ TEST_F(PrinterRoutinesTest, BusinessHeadingIsPrintedInTheTextColour) {
     }
     EXPECT_EQ(printer.Texts.size(), 7U);
     EXPECT_EQ(routines.CurrentPrintColor(), 0x445566U);
+}
+
+// The printer dialog.
+
+TEST_F(PrinterRoutinesTest, DialogOpensWithTheCopiesOfThePrintSettingsAndTheNameOfTheJob) {
+    settings.printDialogCopies = 5;
+    printer.JobName = u"Stock list"_s;
+    user.ExpectPrinterDialog(5, PrintDestination{.Printer = u"Laser"_s, .Copies = 2});
+    routines.AskForPrinter();
+    EXPECT_EQ(user.PrinterDialogs,
+              (std::vector<std::pair<QString, QString>>{{QString(), u"Stock list"_s}}));
+    EXPECT_EQ(printer.Destination(), (PrintDestination{.Printer = u"Laser"_s, .Copies = 2}));
+}
+
+TEST_F(PrinterRoutinesTest, DialogTakesItsCopiesFromTheFileAsItWasReadNotFromTheBox) {
+    settings.cboCopies = u"4"_s;
+    settings.PrintCopies = 4;
+    settings.printDialogCopies = 3;
+    user.ExpectPrinterDialog(3, PrintDestination{});
+    routines.AskForPrinter();
+}
+
+TEST_F(PrinterRoutinesTest, NoCopiesInTheSettingsIsOneInTheDialog) {
+    settings.printDialogCopies = 0;
+    user.ExpectPrinterDialog(1, PrintDestination{});
+    routines.AskForPrinter();
+}
+
+TEST_F(PrinterRoutinesTest, MostCopiesOfTheSettingsReachTheDialog) {
+    settings.printDialogCopies = 255;
+    user.ExpectPrinterDialog(255, PrintDestination{.Copies = 255});
+    routines.AskForPrinter();
+    EXPECT_EQ(printer.Destination().Copies, 255);
+}
+
+TEST_F(PrinterRoutinesTest, CancelInTheDialogIsACancelledPrintAndChangesNoDestination) {
+    printer.SendTo({.Printer = u"Laser"_s});
+    user.ExpectPrinterDialog(3, std::nullopt);
+    const RuntimeFailure failure = FailureOf([this] { routines.AskForPrinter(); });
+    EXPECT_EQ(failure.Kind(), FailureKind::PrintCancelled);
+    EXPECT_EQ(printer.Destination(), PrintDestination{.Printer = u"Laser"_s});
+}
+
+TEST_F(PrinterRoutinesTest, PrinterChosenStaysForTheRunAndTheDialogOpensWithIt) {
+    user.ExpectPrinterDialog(3, PrintDestination{.Printer = u"Laser"_s, .Copies = 7});
+    user.ExpectPrinterDialog(3, PrintDestination{.Printer = u"PDF"_s});
+    HandlePrintErrors(printer, user, [this] { routines.AskForPrinter(); });
+    EXPECT_EQ(printer.Destination(), PrintDestination{.Printer = u"Laser"_s});
+    HandlePrintErrors(printer, user, [this] { routines.AskForPrinter(); });
+    ASSERT_EQ(user.PrinterDialogs.size(), 2U);
+    EXPECT_EQ(user.PrinterDialogs[1].first, u"Laser"_s);
+    EXPECT_EQ(printer.Destination(), PrintDestination{.Printer = u"PDF"_s});
+}
+
+TEST_F(PrinterRoutinesTest, FileHoldsForItsCommandAndIsNoChoiceOfAPrinter) {
+    printer.SendTo({.Printer = u"Laser"_s});
+    user.ExpectPrinterDialog(3, PrintDestination{.File = u"/tmp/a.pdf"_s});
+    HandlePrintErrors(printer, user, [this] {
+        routines.AskForPrinter();
+        EXPECT_EQ(printer.Destination().File, u"/tmp/a.pdf"_s);
+    });
+    EXPECT_EQ(printer.Destination(), PrintDestination{.Printer = u"Laser"_s});
+}
+
+TEST_F(PrinterRoutinesTest, WhatPrintsWithoutAskingGoesToThePrinterChosenLastOnce) {
+    user.ExpectPrinterDialog(3, PrintDestination{.Printer = u"Laser"_s, .Copies = 3});
+    HandlePrintErrors(printer, user, [this] {
+        routines.AskForPrinter();
+        printer.EndJob();
+        printer.EndJob();
+    });
+    HandlePrintErrors(printer, user, [this] { printer.EndJob(); });
+    EXPECT_EQ(printer.Destinations,
+              (std::vector<PrintDestination>{{.Printer = u"Laser"_s, .Copies = 3},
+                                             {.Printer = u"Laser"_s, .Copies = 3},
+                                             {.Printer = u"Laser"_s, .Copies = 1}}));
+}
+
+TEST_F(PrinterRoutinesTest, ChoiceEndsAlsoWithACommandThatFails) {
+    user.ExpectPrinterDialog(3, PrintDestination{.File = u"/tmp/a.pdf"_s});
+    user.ExpectMessage(u"A Print Error has occurred"_s, u"Print Error"_s);
+    printer.FailsAtEndOfJob = true;
+    HandlePrintErrors(printer, user, [this] {
+        routines.AskForPrinter();
+        printer.EndJob();
+    });
+    EXPECT_EQ(printer.Destination(), PrintDestination{});
+    EXPECT_EQ(printer.AbandonedJobs, 1);
+}
+
+TEST_F(PrinterRoutinesTest, CancelIsToldOnlyWhereTheCommandHasWordsForIt) {
+    const auto ask = [this] { routines.AskForPrinter(); };
+    user.ExpectPrinterDialog(3, std::nullopt);
+    HandlePrintErrors(printer, user, ask);
+    user.ExpectPrinterDialog(3, std::nullopt);
+    user.ExpectMessage(u"The List will not be Printed"_s);
+    HandlePrintErrors(printer, user, ask, u"The List will not be Printed"_s);
+    EXPECT_EQ(printer.Jobs, 0);
 }

@@ -23,6 +23,10 @@ public:
     std::optional<QString> AskForFile(const QString&) override { return {}; }
     std::optional<quint32> AskForColor(quint32) override { return {}; }
     std::optional<QString> AskForFont(const QString&) override { return {}; }
+    std::optional<PrintDestination> AskForPrinter(const PrintDestination&,
+                                                  const QString&) override {
+        return {};
+    }
     void Beep() override { Heard += u"Beep"_s; }
     void ShowBusy(bool) override {}
 };

@@ -61,6 +61,7 @@ void RecordingPrinter::EndJob() {
     if (FailsAtEndOfJob)
         throw Stopped();
     ++Jobs;
+    Destinations.push_back(Destination());
     page = 1;
     CurrentX = 0;
     CurrentY = 0;

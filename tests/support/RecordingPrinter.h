@@ -45,6 +45,8 @@ public:
     std::vector<Orientation> Orientations;
     std::vector<bool> Colors;
     int Jobs = 0;
+    /// Where each job that ended went.
+    std::vector<PrintDestination> Destinations;
     int AbandonedJobs = 0;
     /// The call of Print (counted from 1) that fails, as a printer that dies in mid-job.
     std::optional<int> FailingText;

@@ -37,11 +37,17 @@ void ScriptedOperator::ExpectFontDialog(const QString& name, const std::optional
     fontDialogs.push_back({name, answer});
 }
 
+void ScriptedOperator::ExpectPrinterDialog(int copies,
+                                           const std::optional<PrintDestination>& answer) {
+    printerDialogs.push_back({copies, answer});
+}
+
 void ScriptedOperator::ExpectNothingLeft() {
     for (const Line& line : script)
         ADD_FAILURE() << "This message never came: " << line.text.toStdString();
     script.clear();
-    EXPECT_TRUE(fileDialogs.empty() && colorDialogs.empty() && fontDialogs.empty())
+    EXPECT_TRUE(fileDialogs.empty() && colorDialogs.empty() && fontDialogs.empty() &&
+                printerDialogs.empty())
         << "A dialog never came.";
 }
 
@@ -68,6 +74,20 @@ std::optional<quint32> ScriptedOperator::AskForColor(quint32 color) {
 
 std::optional<QString> ScriptedOperator::AskForFont(const QString& name) {
     return AnswerOf(fontDialogs, name);
+}
+
+std::optional<PrintDestination> ScriptedOperator::AskForPrinter(const PrintDestination& destination,
+                                                                const QString& documentName) {
+    PrinterDialogs.emplace_back(destination.Printer, documentName);
+    if (printerDialogs.empty()) {
+        ADD_FAILURE() << "A printer dialog too many.";
+        return {};
+    }
+    const PrinterDialog dialog = printerDialogs.front();
+    printerDialogs.pop_front();
+    EXPECT_EQ(destination.Copies, dialog.copies);
+    EXPECT_TRUE(destination.File.isEmpty());
+    return dialog.answer;
 }
 
 std::optional<ScriptedOperator::Line> ScriptedOperator::NextLine(const QString& text,

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <deque>
+#include <utility>
 #include <vector>
 
 /// An operator who answers from a script: every message in its order, to the letter, with its
@@ -27,6 +28,12 @@ public:
     void ExpectColorDialog(quint32 color, std::optional<quint32> answer);
     void ExpectFontDialog(const QString& name, const std::optional<QString>& answer);
 
+    /// The next printer dialog, with the copies that it is opened with; nothing stands for Cancel.
+    /// A destination as it is made by default stands for OK without touching anything.
+    void ExpectPrinterDialog(int copies, const std::optional<PrintDestination>& answer);
+    /// The printers and documents that printer dialogs were opened with, in order.
+    std::vector<std::pair<QString, QString>> PrinterDialogs;
+
     /// Fails the test when a message of the script has not come yet.
     void ExpectNothingLeft();
 
@@ -40,6 +47,8 @@ public:
     std::optional<QString> AskForFile(const QString& filter) override;
     std::optional<quint32> AskForColor(quint32 color) override;
     std::optional<QString> AskForFont(const QString& name) override;
+    std::optional<PrintDestination> AskForPrinter(const PrintDestination& destination,
+                                                  const QString& documentName) override;
     void Beep() override;
     void ShowBusy(bool busy) override;
 
@@ -67,4 +76,9 @@ private:
     std::deque<Dialog<QString>> fileDialogs;
     std::deque<Dialog<quint32>> colorDialogs;
     std::deque<Dialog<QString>> fontDialogs;
+    struct PrinterDialog {
+        int copies;
+        std::optional<PrintDestination> answer;
+    };
+    std::deque<PrinterDialog> printerDialogs;
 };
