@@ -11,5 +11,7 @@ Office::Office(const QString& dataFolder, const Machine& theMachine)
       nonInventoriedItems(disk),
       board(disk, slips, calendar, settings, machine.clock, machine.user),
       printer(machine.printer, settings), schedulePrinter(board, printer, settings, machine.user),
+      weekly(slips, settings, machine.clock, machine.user),
+      weeklyPrinter(weekly, printer, settings, machine.clock, machine.user),
       customerFiles(disk, machine.clock, machine.user),
       customers(disk, customerFiles, settings, machine.user, deliveryCustomer) {}

@@ -13,6 +13,8 @@
 #include "schedule/DeliverySchedulePrinter.h"
 #include "schedule/PrinterRoutines.h"
 #include "schedule/ScheduleBoard.h"
+#include "schedule/WeeklySchedule.h"
+#include "schedule/WeeklySchedulePrinter.h"
 #include "setup/CommonDialog.h"
 #include "setup/CompanyLogo.h"
 #include "setup/LiveSettings.h"
@@ -60,6 +62,8 @@ public:
     ScheduleBoard board;
     PrinterRoutines printer;
     DeliverySchedulePrinter schedulePrinter;
+    WeeklySchedule weekly;
+    WeeklySchedulePrinter weeklyPrinter;
     CustomerFiles customerFiles;
     DeliveryCustomer deliveryCustomer;
     CustomerSelection customers;
