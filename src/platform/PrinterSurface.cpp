@@ -9,6 +9,11 @@ void PrinterSurface::EndCommand() {
     SendTo({.Printer = destination.Printer});
 }
 
+void PrinterSurface::SetPage(Orientation orientation, bool inColor) {
+    SetPaper(orientation, inColor);
+    CentringWidth.reset();
+}
+
 void PrinterSurface::PrintLine(const QString& text) {
     Print(text);
     CurrentX = 0;
@@ -28,6 +33,6 @@ void PrinterSurface::PrintEndingAt(double right, const QString& text) {
 }
 
 void PrinterSurface::PrintCentred(const QString& text) {
-    CurrentX = (PageWidth() - TextWidth(text)) / 2;
+    CurrentX = (CentringWidth.value_or(PageWidth()) - TextWidth(text)) / 2;
     PrintLine(text);
 }

@@ -12,6 +12,7 @@ namespace {
 constexpr double twipsInInch = 1440;
 constexpr quint32 black = 0;
 constexpr quint32 blue = 0xff0000;
+constexpr double pageWidth = 12240;
 constexpr int wrapMargin = 20;
 
 } // namespace
@@ -36,6 +37,7 @@ void PrinterRoutines::AskForPrinter() {
 
 void PrinterRoutines::PreparePrinter(Orientation orientation, bool inColor) {
     surface.SetPage(orientation, inColor);
+    surface.CentringWidth = pageWidth;
     surface.FontName = settings.DocumentFont;
     surface.ForeColor = black;
     SetPrintFont(0, false, false);
@@ -46,6 +48,16 @@ void PrinterRoutines::PositionAt(float x, float y) {
         surface.CurrentX = double(x) * twipsInInch;
     if (y > 0)
         surface.CurrentY = double(y) * twipsInInch;
+}
+
+void PrinterRoutines::PrintAt(float x, const QString& text) {
+    PositionAt(x, 0);
+    surface.Print(text);
+}
+
+void PrinterRoutines::PrintLineAt(float x, const QString& text) {
+    PositionAt(x, 0);
+    surface.PrintLine(text);
 }
 
 void PrinterRoutines::SetPrintFont(int size, bool bold, bool underline) {
@@ -96,11 +108,6 @@ void PrinterRoutines::PrintWrapped(double x, double y, int width, int height, co
     } while (surface.CurrentY < bottom && !rest.isEmpty());
 }
 
-void PrinterRoutines::PrintHeadingLine(float x, const QString& text) {
-    PositionAt(x, 0);
-    surface.PrintLine(text);
-}
-
 void PrinterRoutines::PrintHeadingAddress(float x) {
     const QString& city = settings.BusinessData[3];
     const QString& state = settings.BusinessData[4];
@@ -112,12 +119,12 @@ void PrinterRoutines::PrintHeadingAddress(float x) {
         if (!state.isEmpty())
             line += state + u". "_s + zip;
         if (!line.isEmpty())
-            PrintHeadingLine(x, line);
+            PrintLineAt(x, line);
         return;
     }
     for (const QString& line : {city, state}) {
         if (!line.isEmpty())
-            PrintHeadingLine(x, line);
+            PrintLineAt(x, line);
     }
 }
 
@@ -129,14 +136,14 @@ void PrinterRoutines::PrintBusinessHeading(float x, float y, int size) {
     SetPrintFont(size, true, false);
     surface.PrintLine(business[0]);
     SetPrintFont(smallSize, false, false);
-    PrintHeadingLine(x, business[1]);
+    PrintLineAt(x, business[1]);
     if (!business[2].isEmpty())
-        PrintHeadingLine(x, business[2]);
+        PrintLineAt(x, business[2]);
     PrintHeadingAddress(x);
     if (!business[6].isEmpty())
-        PrintHeadingLine(x, u"Telephone: "_s + business[6]);
+        PrintLineAt(x, u"Telephone: "_s + business[6]);
     for (const QString& line : {business[7], business[8]}) {
         if (!line.isEmpty())
-            PrintHeadingLine(x, line);
+            PrintLineAt(x, line);
     }
 }

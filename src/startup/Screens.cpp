@@ -3,6 +3,7 @@
 #include "customers/frmCustomer.h"
 #include "products/frmServices.h"
 #include "schedule/frmPrintSchedules.h"
+#include "schedule/frmWeekly.h"
 #include "setup/frmHolidays.h"
 #include "setup/frmSetup.h"
 #include "setup/frmSplash.h"
@@ -23,7 +24,6 @@ Screens::~Screens() {
 
 bool Screens::IsBuilt(ScreenName name) {
     switch (name) {
-    case ScreenName::frmWeekly:
     case ScreenName::frmDelivery:
     case ScreenName::frmTaxForm:
     case ScreenName::frmSalesReport:
@@ -44,6 +44,8 @@ std::unique_ptr<Screen> Screens::Make(ScreenName name) {
         return std::make_unique<frmSetup>(office, *this);
     case ScreenName::frmPrintSchedules:
         return std::make_unique<frmPrintSchedules>(office, *this);
+    case ScreenName::frmWeekly:
+        return std::make_unique<frmWeekly>(office, *this);
     case ScreenName::frmHolidays:
         return std::make_unique<frmHolidays>(office, *this);
     case ScreenName::frmVehicle:

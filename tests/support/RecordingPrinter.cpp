@@ -15,7 +15,7 @@ const RecordingPrinter::Text& RecordingPrinter::Find(const QString& text) const 
     return nothing;
 }
 
-void RecordingPrinter::SetPage(Orientation orientation, bool inColor) {
+void RecordingPrinter::SetPaper(Orientation orientation, bool inColor) {
     Orientations.push_back(orientation);
     Colors.push_back(inColor);
 }

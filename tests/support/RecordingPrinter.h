@@ -63,7 +63,6 @@ public:
     /// The first text of that wording; fails the test when there is none.
     const Text& Find(const QString& text) const;
 
-    void SetPage(Orientation orientation, bool inColor) override;
     double PageWidth() const override { return Width; }
     double PageHeight() const override { return Height; }
     int PageNumber() const override { return page; }
@@ -79,6 +78,7 @@ public:
     void AbandonJob() override;
 
 protected:
+    void SetPaper(Orientation orientation, bool inColor) override;
     void DrawText(double x, double y, const QString& text) override;
 
 private:
