@@ -13,4 +13,6 @@ Office::Office(const QString& dataFolder, const Machine& theMachine)
       printer(machine.printer, settings, machine.user),
       schedulePrinter(board, printer, settings, machine.user),
       customerFiles(disk, machine.clock, machine.user),
-      customers(disk, customerFiles, settings, machine.user, deliveryCustomer) {}
+      customers(disk, customerFiles, settings, machine.user, deliveryCustomer),
+      customerSearch(customers, customerFiles, settings, machine.user),
+      customerReport(disk, customerFiles, printer, settings, machine.clock, machine.user) {}
