@@ -91,6 +91,8 @@ Answer ScriptedOperator::MsgBox(const QString& text, Buttons buttons, const QStr
     EXPECT_EQ(text, line.text);
     EXPECT_EQ(buttons, line.buttons);
     EXPECT_EQ(title, line.title);
+    if (WhileMessageIsOpen)
+        WhileMessageIsOpen();
     return line.answer;
 }
 
@@ -106,4 +108,20 @@ void ScriptedOperator::Beep() {
 
 void ScriptedOperator::ShowBusy(bool busy) {
     BusyChanges.push_back(busy);
+}
+
+void ScriptedOperator::BeginProgress(const QString& work, int steps) {
+    EXPECT_FALSE(IsWorkShown) << "Two works at once.";
+    IsWorkShown = true;
+    Works.emplace_back(work, steps);
+}
+
+bool ScriptedOperator::ShowProgress(int stepsDone) {
+    EXPECT_TRUE(IsWorkShown);
+    StepsDone.push_back(stepsDone);
+    return !StopsAtStep || stepsDone < *StopsAtStep;
+}
+
+void ScriptedOperator::EndProgress() {
+    IsWorkShown = false;
 }
