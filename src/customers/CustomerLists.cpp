@@ -70,6 +70,16 @@ int AccountNames::Find(const QString& text) const {
     return found == entries.end() ? -1 : int(found - entries.begin());
 }
 
+int AccountNames::FirstBeginningWith(const QString& text) const {
+    // The names that begin with a text stand together, where the text itself would stand.
+    const auto found = std::lower_bound(
+        entries.begin(), entries.end(), text,
+        [](const Entry& entry, const QString& wanted) { return ComesBefore(entry.name, wanted); });
+    const bool isFound =
+        found != entries.end() && found->name.startsWith(text, Qt::CaseInsensitive);
+    return isFound ? int(found - entries.begin()) : -1;
+}
+
 int AccountNames::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : int(entries.size());
 }

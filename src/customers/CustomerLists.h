@@ -21,6 +21,9 @@ public:
     /// The row of the first entry that is the text, both without blanks at the ends and in upper
     /// case; -1 when there is none.
     int Find(const QString& text) const;
+    /// The row of the first entry that begins with the text, without regard to case; -1 when there
+    /// is none.
+    int FirstBeginningWith(const QString& text) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -2,8 +2,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
 QByteArrayView ShownBytes(QByteArrayView field) {
     const qsizetype nul = field.indexOf('\0');
     if (nul >= 0)
@@ -15,12 +13,6 @@ QByteArrayView ShownBytes(QByteArrayView field) {
     return field;
 }
 
-} // namespace
-
-QString ShownText(QByteArrayView field) {
-    return FromCodePage(ShownBytes(field));
-}
-
 QString BusinessType() {
     return u"Business"_s;
 }
@@ -30,8 +22,7 @@ QString IndividualType() {
 }
 
 bool IsBusiness(const CustomerRecord& customer) {
-    return ShownBytes({customer.AcctType.bytes.data(),
-                       qsizetype(customer.AcctType.bytes.size())}) == "Business";
+    return ShownBytes(customer.AcctType) == "Business";
 }
 
 QString FullPersonalName(const QString& title, const QString& first, const QString& middle,

@@ -5,11 +5,15 @@
 #include <QString>
 
 /// What a field shows: nothing from the first NUL character on, since a record that was never
-/// written reads as zero bytes, and no blanks at the ends.
-QString ShownText(QByteArrayView field);
+/// written reads as zero bytes, and no blanks at the ends. The bytes are those of the record.
+QByteArrayView ShownBytes(QByteArrayView field);
+template <size_t Width>
+QByteArrayView ShownBytes(const FixedText<Width>& field) {
+    return ShownBytes(QByteArrayView(field.bytes.data(), qsizetype(Width)));
+}
 template <size_t Width>
 QString ShownText(const FixedText<Width>& field) {
-    return ShownText(QByteArrayView(field.bytes.data(), qsizetype(Width)));
+    return FromCodePage(ShownBytes(field));
 }
 
 /// The word in AcctType and on the screen; anything else stands for an individual.

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -48,6 +49,9 @@ void CustomerSelection::Load() {
     mnuAuxEnabled = true;
     mnuDeleteEnabled = true;
     CurrentRecord = 1;
+    TypeAheadBusy = false;
+    Advance = {};
+    saved.reset();
     LoadStates();
     Fields = {};
     lbLType = BusinessType();
@@ -119,13 +123,23 @@ void CustomerSelection::ToggleAccountType() {
 }
 
 void CustomerSelection::ShowRecordArea() {
+    BringRecordToFront();
     SetAccountType(lbLType);
+}
+
+void CustomerSelection::BringRecordToFront() {
+    fraSearchVisible = false;
+    fraCustomersFoundVisible = false;
+    if (Name == NamePlace::AccountList)
+        Name = IsBusiness() ? NamePlace::BusinessName : NamePlace::PersonalName;
 }
 
 void CustomerSelection::ShowCustomer() {
     if (CurrentRecord < 1)
         return;
     Fields = {};
+    fraSearchVisible = false;
+    saved.reset();
     files.ReadCustomer(CurrentRecord);
     SetAccountType(ShownText(files.Customer.AcctType));
     FillFields();
@@ -165,14 +179,14 @@ bool CustomerSelection::HasName() {
         if (!Fields[CustomerText::BusinessName].isEmpty())
             return true;
         user.MsgBox(u"The Account Name Cannot be Blank"_s);
-        Name = NamePlace::BusinessName;
+        BringRecordToFront();
         Focus = FocusOn::BusinessName;
         return false;
     }
     if (!Fields[CustomerText::FirstName].isEmpty() && !Fields[CustomerText::LastName].isEmpty())
         return true;
     user.MsgBox(u"Enter Account Data or\n Click Cancel AddNew if Visible"_s);
-    Name = NamePlace::PersonalName;
+    BringRecordToFront();
     Focus = FocusOn::FirstName;
     return false;
 }
@@ -190,8 +204,10 @@ bool CustomerSelection::HasAccountNumber() {
     user.MsgBox(u"The Telephone Number cannot be blank"_s, Buttons::Ok, u"No number"_s);
     IsGivenUp = user.MsgBox(u"Would you like to exit\nwithout creating a Customer?"_s,
                             Buttons::YesNo, u"No Customer"_s) == Answer::Yes;
-    if (!IsGivenUp)
-        Focus = FocusOn::Phone;
+    if (IsGivenUp)
+        return false;
+    BringRecordToFront();
+    Focus = FocusOn::Phone;
     return false;
 }
 
@@ -216,6 +232,7 @@ void CustomerSelection::SaveCustomer() {
     mnuAuxEnabled = true;
     mnuDeleteEnabled = true;
     mnuAddEnabled = true;
+    saved = {Fields, lbLType};
 }
 
 void CustomerSelection::FillRecord() {
@@ -253,6 +270,17 @@ bool CustomerSelection::SaveAndGoOn() {
     return RecordValid && !IsGivenUp;
 }
 
+bool CustomerSelection::IsSavedAsShown() const {
+    return saved && saved->fields == Fields && saved->type == lbLType;
+}
+
+bool CustomerSelection::LeaveFor(qint32 record) {
+    if (!IsSavedAsShown() && !SaveAndGoOn())
+        return false;
+    GoTo(record);
+    return true;
+}
+
 void CustomerSelection::ListAccounts() {
     if (CustomerCount > std::numeric_limits<qint16>::max())
         throw RuntimeFailure(
@@ -268,6 +296,11 @@ void CustomerSelection::ListAccounts() {
     });
     cboCity.Fill(cities);
     cboAccounts.Fill(std::move(accounts));
+}
+
+void CustomerSelection::cmdNew_Click() {
+    Advance.IsOn = false;
+    AddNewCustomer();
 }
 
 void CustomerSelection::AddNewCustomer() {
@@ -292,6 +325,8 @@ void CustomerSelection::BeginNewCustomer() {
     files.BlankCustomer();
     acctState = 1;
     Fields = {};
+    saved.reset();
+    BringRecordToFront();
     SetAccountType(IndividualType());
     ListAccounts();
     PrefillAddress();
@@ -300,6 +335,7 @@ void CustomerSelection::BeginNewCustomer() {
 }
 
 void CustomerSelection::CancelAddNew() {
+    Advance.IsOn = false;
     IsCancelVisible = false;
     // Also after an add that could not begin or was saved since: then the last customer is out of
     // reach until the screen loads again.
@@ -308,6 +344,8 @@ void CustomerSelection::CancelAddNew() {
 }
 
 void CustomerSelection::DeleteCustomer() {
+    // A list of customers in front would go on with the numbers of before.
+    BringRecordToFront();
     if (user.MsgBox(u"Delete this Customer"_s, Buttons::YesNo) != Answer::Yes) {
         Focus = FocusOn::AcctNo;
         return;
@@ -359,18 +397,40 @@ void CustomerSelection::MoveTo(Move move) {
     }
 }
 
+void CustomerSelection::ToggleAutoAdvance() {
+    if (!SaveAndGoOn())
+        return;
+    Advance.IsOn = !Advance.IsOn;
+    ShowCustomer();
+}
+
 void CustomerSelection::FindInNameList() {
     if (cboAccounts.rowCount() == 0)
         return;
+    BringRecordToFront();
     Name = NamePlace::AccountList;
     Focus = FocusOn::AccountList;
 }
 
+QString CustomerSelection::cboAccounts_Change(const QString& text) {
+    if (std::exchange(TypeAheadBusy, false))
+        return {};
+    const int row = cboAccounts.FirstBeginningWith(text);
+    // Where nothing has been typed there is nothing to complete.
+    if (text.isEmpty() || row < 0)
+        return {};
+    const QString rest = cboAccounts.At(row).name.mid(text.size());
+    TypeAheadBusy = !rest.isEmpty();
+    return rest;
+}
+
+void CustomerSelection::cboAccounts_DeleteKeyDown() {
+    TypeAheadBusy = true;
+}
+
 void CustomerSelection::cboAccounts_Choose(int row) {
     ShowRecordArea();
-    // The record is left by choosing another one.
-    if (SaveAndGoOn())
-        GoTo(cboAccounts.At(row).record);
+    LeaveFor(cboAccounts.At(row).record);
 }
 
 void CustomerSelection::cboAccounts_LostFocus(const QString& text) {
@@ -383,8 +443,7 @@ void CustomerSelection::cboAccounts_LostFocus(const QString& text) {
     }
     user.MsgBox(u"Name Not Found\nFirst Accont is Displayed"_s);
     ShowRecordArea();
-    if (SaveAndGoOn())
-        GoTo(1);
+    LeaveFor(1);
 }
 
 void CustomerSelection::AcctNo_LostFocus() {
@@ -418,6 +477,7 @@ void CustomerSelection::BusinessName_LostFocus() {
 }
 
 bool CustomerSelection::Leave(bool isSelected) {
+    Advance.IsOn = false;
     if (IsCancelVisible)
         CancelAddNew();
     if (!SaveAndGoOn())

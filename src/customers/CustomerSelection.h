@@ -1,11 +1,13 @@
 #pragma once
 
+#include "customers/AutoAdvance.h"
 #include "customers/CustomerFiles.h"
 #include "customers/CustomerLists.h"
 #include "setup/LiveSettings.h"
 #include "slips/DeliveryCustomer.h"
 
 #include <array>
+#include <optional>
 
 /// Places in the array txtCustomer; place 4 is not used.
 enum class CustomerText {
@@ -34,13 +36,25 @@ struct CustomerFields {
 
     QString& operator[](CustomerText place) { return txtCustomer.at(size_t(place)); }
     const QString& operator[](CustomerText place) const { return txtCustomer.at(size_t(place)); }
+
+    bool operator==(const CustomerFields&) const = default;
 };
 
 /// What stands in the place of the name.
 enum class NamePlace { BusinessName, PersonalName, AccountList };
 
 /// The control that is to take the focus when an action is done.
-enum class FocusOn { Nothing, AcctNo, BusinessName, FirstName, Phone, AccountList, SelectButton };
+enum class FocusOn {
+    Nothing,
+    AcctNo,
+    BusinessName,
+    FirstName,
+    Phone,
+    AccountList,
+    SelectButton,
+    SearchText,
+    FoundGrid,
+};
 
 /// Places of the buttons in the array cmdNav that move through the records.
 enum class Move {
@@ -71,11 +85,19 @@ public:
     NamePlace Name = NamePlace::BusinessName;
     FocusOn Focus = FocusOn::Nothing;
     bool UsaAddressStyle = true;
+    /// The search and the list of customers lie over the record. At most one of them and the list
+    /// of names is in front.
+    bool fraSearchVisible = false;
+    bool fraCustomersFoundVisible = false;
 
     AccountNames cboAccounts;
     CityNames cboCity;
     /// StatesList.txt; empty without one.
     QStringList cboStates;
+    /// Keeps the completion of a typed name from acting on its own change of the text, and on a
+    /// deletion.
+    bool TypeAheadBusy = false;
+    AutoAdvance Advance;
 
     /// cmdNav(0) to cmdNav(6) and Command1(0) to Command1(2).
     bool IsNavigationEnabled = false;
@@ -111,7 +133,9 @@ public:
     /// overflow.
     void ListAccounts();
 
-    /// cmdNew and mnuAdd.
+    /// cmdNew, which also stops the auto advance.
+    void cmdNew_Click();
+    /// mnuAdd.
     void AddNewCustomer();
     void BeginNewCustomer();
     /// Goes to the last record, wherever the operator came from.
@@ -122,10 +146,22 @@ public:
     /// Saves, then moves. The quarters all derive from one truncated quarter, and with less than 4
     /// customers they do nothing.
     void MoveTo(Move move);
+    /// cmdNav(9): saves, then turns the auto advance on or off.
+    void ToggleAutoAdvance();
+    /// Shows another record. One that is not saved as it stands on the screen is saved first; false
+    /// when it can't be, and so is not left.
+    bool LeaveFor(qint32 record);
 
     /// Command1(1) and Command1(2).
     void FindInNameList();
     void ShowRecordArea();
+    /// Puts the record in front of the search, the customers found and the list of names.
+    void BringRecordToFront();
+    /// What completes the text in the list of names to its first entry that begins with it; nothing
+    /// when there is none.
+    QString cboAccounts_Change(const QString& text);
+    /// Delete or Backspace is going down.
+    void cboAccounts_DeleteKeyDown();
     void cboAccounts_Choose(int row);
     /// A text that is no name on the list leads to the first customer.
     void cboAccounts_LostFocus(const QString& text);
@@ -140,6 +176,7 @@ public:
 private:
     bool IsBusiness() const;
     bool SaveAndGoOn();
+    bool IsSavedAsShown() const;
     bool HasName();
     bool HasAccountNumber();
     void FillRecord();
@@ -156,4 +193,11 @@ private:
     Operator& user;
     DeliveryCustomer& delivery;
     qint16 acctState = 0;
+    /// What the record on the screen was last saved with; nothing since it has been shown. A second
+    /// save would put the defaults over its contract and cycle.
+    struct SavedRecord {
+        CustomerFields fields;
+        QString type;
+    };
+    std::optional<SavedRecord> saved;
 };

@@ -1,6 +1,9 @@
 #include "customers/frmCustomer.h"
 
-#include "platform/EntryBox.h"
+#include "customers/AccountBox.h"
+#include "customers/AutoAdvancePanel.h"
+#include "customers/CustomerSearchPanel.h"
+#include "customers/CustomersFoundPanel.h"
 #include "platform/EntryField.h"
 #include "platform/Form.h"
 #include "platform/Theme.h"
@@ -9,18 +12,13 @@
 #include "store/VerifyDataRoutines.h"
 
 #include <QApplication>
-#include <QCompleter>
-#include <QFocusEvent>
 #include <QLabel>
-#include <QListView>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QSlider>
-#include <QStringListModel>
 #include <QToolButton>
 #include <QVBoxLayout>
-
-#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -41,6 +39,11 @@ constexpr double lastNameWidth = 12;
 constexpr double initialWidth = 2.6;
 constexpr double pictureSize = 1.3;
 constexpr int namesInPopup = 16;
+constexpr int longListStretch = 1000;
+
+/// Values of MenuChoice.
+constexpr qint16 maintenance = 2;
+constexpr qint16 newDelivery = 5;
 
 /// The place behind the area code and exchange that the program proposes.
 constexpr qsizetype proposedPhone = 8;
@@ -59,6 +62,12 @@ void PutOff(QWidget* control) {
     control->setToolTip(laterVersion);
 }
 
+void SetUp(EntryBox* combo, const QString& accessibleName) {
+    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    combo->setMaxVisibleItems(namesInPopup);
+    combo->setAccessibleName(accessibleName);
+}
+
 QToolButton* MakeDialButton() {
     auto* dial = Named(new QToolButton, Indexed(u"Image1"_s, 1));
     const QSize size(Em(pictureSize), Em(pictureSize));
@@ -74,16 +83,20 @@ QToolButton* MakeDialButton() {
 frmCustomer::frmCustomer(Office& theOffice, Screens& allScreens)
     : Screen(u"frmCustomer"_s, u"Customer Selection       "_s, u"TesselDelivery"_s,
              u"TesselCycleInvoicer"_s),
-      office(theOffice), screens(allScreens), customers(theOffice.customers) {
+      office(theOffice), screens(allScreens), customers(theOffice.customers),
+      search(theOffice.customerSearch) {
     MakeMenus();
     auto* side = new QVBoxLayout;
     side->setSpacing(cardGap);
-    auto* account = MakeAccountCard();
+    account = MakeAccountCard();
     side->addWidget(MakeFindCard());
     side->addWidget(MakeMoveCard());
     side->addStretch(1);
     auto* main = new QVBoxLayout;
+    // One of the three is in front. The list takes all the room there is.
     main->addWidget(account);
+    main->addWidget(MakeSearch());
+    main->addWidget(MakeFound(), longListStretch);
     main->addStretch(1);
     auto* columns = new QHBoxLayout(Body());
     columns->setContentsMargins(bodySide, bodyTop, bodySide, bodyTop);
@@ -98,6 +111,7 @@ frmCustomer::frmCustomer(Office& theOffice, Screens& allScreens)
     connect(&behindLostFocus, &QTimer::timeout, this, &frmCustomer::ReleaseButtons);
 
     customers.Load();
+    search.Load();
     cboStates->addItems(customers.cboStates);
     ShowFields();
 }
@@ -126,7 +140,7 @@ void frmCustomer::MakeMenus() {
     mnuDelete = AddItem(menu, u"mnuDelete"_s, u"DELETE This customer"_s,
                         [this] { customers.DeleteCustomer(); });
     menu->addSeparator();
-    AddItem(menu, u"mnuPrint"_s, u"Print Customers"_s, {});
+    AddItem(menu, u"mnuPrint"_s, u"Print Customers"_s, [this] { search.mnuPrint_Click(); });
     AddItem(menu, u"mnuAux"_s, u"Toggle Data Window"_s, {});
 }
 
@@ -153,7 +167,7 @@ void frmCustomer::MakeFoot() {
     AddWayBack(make(Menu, u"&Menu"_s));
     AddAction(make(CancelAddNew, u"Cancel Add &New"_s));
     cmdNew = MakeButton(u"cmdNew"_s, u"Add New Customer"_s,
-                        [this] { Run([this] { customers.AddNewCustomer(); }); });
+                        [this] { Run([this] { customers.cmdNew_Click(); }); });
     AddAction(cmdNew);
     AddMainAction(make(Select, u"&Select this Account Start Routine"_s));
 }
@@ -172,9 +186,7 @@ EntryField* frmCustomer::MakeText(CustomerText place, const QString& accessibleN
 
 EntryBox* frmCustomer::MakeCombo(const QString& name, const QString& accessibleName) {
     auto* combo = Named(new EntryBox, name);
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    combo->setMaxVisibleItems(namesInPopup);
-    combo->setAccessibleName(accessibleName);
+    SetUp(combo, accessibleName);
     return combo;
 }
 
@@ -234,20 +246,17 @@ QWidget* frmCustomer::MakeNameRow() {
 }
 
 void frmCustomer::MakeAccountList() {
-    cboAccounts = MakeCombo(u"cboAccounts"_s, u"Customer by name"_s);
+    cboAccounts = Named(
+        new AccountBox([this](const QString& text) { return customers.cboAccounts_Change(text); }),
+        u"cboAccounts"_s);
+    SetUp(cboAccounts, u"Customer by name"_s);
     cboAccounts->setModel(&customers.cboAccounts);
-    // This one is for finding a name, not for entering one.
-    auto* completer = new QCompleter(&customers.cboAccounts, cboAccounts);
-    completer->setCompletionMode(QCompleter::InlineCompletion);
-    completer->setCaseSensitivity(Qt::CaseInsensitive);
-    cboAccounts->setCompleter(completer);
-    cboAccounts->installEventFilter(this);
     cboAccounts->setFixedWidth(Em(addressWidth));
     cboAccounts->lineEdit()->setPlaceholderText(u"Type the first letters of a name"_s);
-    static_cast<QListView*>(cboAccounts->view())->setUniformItemSizes(true);
     connect(cboAccounts, &QComboBox::activated, this, &frmCustomer::cboAccounts_Click);
-    connect(cboAccounts->lineEdit(), &QLineEdit::returnPressed, this,
-            &frmCustomer::cboAccounts_LostFocus);
+    connect(cboAccounts, &AccountBox::Left, this, &frmCustomer::cboAccounts_LostFocus);
+    connect(cboAccounts, &AccountBox::DeleteKeyDown, this,
+            [this] { customers.cboAccounts_DeleteKeyDown(); });
 }
 
 QWidget* frmCustomer::MakeUsAddress() {
@@ -293,13 +302,12 @@ QWidget* frmCustomer::MakeFindCard() {
             MakeButton(Indexed(u"Command1"_s, index), caption, [this, rule] { Run(rule); });
         card->Rows()->addWidget(Command1[index]);
     };
-    add(SearchByCriteria, u"&Search by Criteria,such as Street Address"_s, {});
+    add(SearchByCriteria, u"&Search by Criteria,such as Street Address"_s,
+        [this] { search.SearchByCriteria(); });
     add(FindInNameList, u"&Find Account in Name List Alphbetically"_s,
         [this] { customers.FindInNameList(); });
     add(SelectFromList, u"Select from &Account List"_s, [this] { customers.ShowRecordArea(); });
-    add(LocateInList, u"&Locate Account in Name List "_s, {});
-    PutOff(Command1[SearchByCriteria]);
-    PutOff(Command1[LocateInList]);
+    add(LocateInList, u"&Locate Account in Name List "_s, [this] { search.LocateInList(); });
     return card;
 }
 
@@ -331,62 +339,72 @@ QWidget* frmCustomer::MakeMoveCard() {
 }
 
 QWidget* frmCustomer::MakeAutoAdvance() {
-    constexpr int shortestInterval = 250;
-    constexpr int longestInterval = 5000;
-    constexpr int firstInterval = 2500;
-    auto* button = Named(new QPushButton(u"Auto Advance Off"_s), Indexed(u"cmdNav"_s, autoAdvance));
-    PutOff(button);
-    auto* slider = Named(new QSlider(Qt::Horizontal), u"Slider1"_s);
-    slider->setRange(shortestInterval, longestInterval);
-    slider->setValue(firstInterval);
-    slider->setAccessibleName(u"Milliseconds between two customers"_s);
-    PutOff(slider);
-    auto* speed = new QHBoxLayout;
-    speed->addWidget(Named(SoftLabel(u"Slower"_s), Indexed(u"Label2"_s, 35)));
-    speed->addWidget(slider, 1);
-    speed->addWidget(Named(SoftLabel(u"Faster"_s), Indexed(u"Label2"_s, 36)));
+    cmdAutoAdvance = MakeButton(Indexed(u"cmdNav"_s, autoAdvance), customers.Advance.Caption(),
+                                [this] { Run([this] { customers.ToggleAutoAdvance(); }); });
+    cmdAutoAdvance->setToolTip(u"Increments Customer Record at set rate"_s);
+    autoAdvancePanel = new AutoAdvancePanel(customers.Advance);
+    connect(autoAdvancePanel, &AutoAdvancePanel::Tick, this, &frmCustomer::Timer1_Timer);
     auto* block = new QWidget;
     auto* rows = new QVBoxLayout(block);
     rows->setContentsMargins({});
-    rows->addWidget(button);
-    rows->addLayout(speed);
+    rows->addWidget(cmdAutoAdvance);
+    rows->addWidget(autoAdvancePanel);
     return block;
+}
+
+QWidget* frmCustomer::MakeSearch() {
+    fraSearch = new CustomerSearchPanel(search);
+    connect(fraSearch, &CustomerSearchPanel::OptionClicked, this,
+            [this](SearchField field) { Run([this, field] { search.optSearch_Click(field); }); });
+    connect(fraSearch, &CustomerSearchPanel::StartClicked, this,
+            &frmCustomer::cmdStartSearch_Click);
+    connect(fraSearch, &CustomerSearchPanel::ClearClicked, this,
+            [this] { Run([this] { search.cmdClearSearch_Click(); }); });
+    connect(fraSearch, &CustomerSearchPanel::HideClicked, this,
+            [this] { Run([this] { search.cmdHideSearch_Click(); }); });
+    return fraSearch;
+}
+
+QWidget* frmCustomer::MakeFound() {
+    fraCustomersFound = new CustomersFoundPanel(search);
+    connect(fraCustomersFound, &CustomersFoundPanel::SelectClicked, this,
+            [this] { Run([this] { search.mnuSelect_Click(); }); });
+    connect(fraCustomersFound, &CustomersFoundPanel::RetryClicked, this,
+            [this] { Run([this] { search.cmdRetry_Click(); }); });
+    connect(fraCustomersFound, &CustomersFoundPanel::PrintClicked, this,
+            [this] { Run([this] { office.customerReport.cmdPrintCustomers_Click(); }); });
+    return fraCustomersFound;
 }
 
 /// From the top of the record down, then the buttons beside it, then the foot.
 void frmCustomer::SetTabOrder() {
-    QWidget* const order[] = {cmdAcctType,
-                              Text(CustomerText::AcctNo),
-                              Text(CustomerText::BusinessName),
-                              cboTitle,
-                              Text(CustomerText::FirstName),
-                              Text(CustomerText::MiddleInitial),
-                              Text(CustomerText::LastName),
-                              cboAccounts,
-                              Text(CustomerText::Address1),
-                              Text(CustomerText::Address2),
-                              cboCity,
-                              cboStates,
-                              Text(CustomerText::PostalCode),
-                              txtAdd3,
-                              txtAdd4,
-                              Text(CustomerText::Phone),
-                              Text(CustomerText::Cell),
-                              Text(CustomerText::Email),
-                              Command1[FindInNameList],
-                              Command1[SelectFromList],
-                              cmdNav[Move::First],
-                              cmdNav[Move::Previous],
-                              cmdNav[Move::Next],
-                              cmdNav[Move::Last],
-                              cmdNav[Move::Quarter],
-                              cmdNav[Move::Half],
-                              cmdNav[Move::ThreeQuarters],
-                              cmdCustomer[Menu],
-                              cmdCustomer[CancelAddNew],
-                              cmdNew,
-                              cmdCustomer[Select]};
-    for (size_t i = 1; i < std::size(order); ++i)
+    QList<QWidget*> order = {cmdAcctType,
+                             Text(CustomerText::AcctNo),
+                             Text(CustomerText::BusinessName),
+                             cboTitle,
+                             Text(CustomerText::FirstName),
+                             Text(CustomerText::MiddleInitial),
+                             Text(CustomerText::LastName),
+                             cboAccounts,
+                             Text(CustomerText::Address1),
+                             Text(CustomerText::Address2),
+                             cboCity,
+                             cboStates,
+                             Text(CustomerText::PostalCode),
+                             txtAdd3,
+                             txtAdd4,
+                             Text(CustomerText::Phone),
+                             Text(CustomerText::Cell),
+                             Text(CustomerText::Email)};
+    order << fraSearch->TabStops() << fraCustomersFound->TabStops();
+    for (const auto& [index, button] : Command1)
+        order += button;
+    for (const Move move : {Move::First, Move::Previous, Move::Next, Move::Last, Move::Quarter,
+                            Move::Half, Move::ThreeQuarters})
+        order += cmdNav[move];
+    order << cmdAutoAdvance << autoAdvancePanel->Slider() << cmdCustomer[Menu]
+          << cmdCustomer[CancelAddNew] << cmdNew << cmdCustomer[Select];
+    for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
 }
 
@@ -406,6 +424,7 @@ void frmCustomer::SetKeyRules() {
 }
 
 void frmCustomer::Run(const std::function<void()>& rule) {
+    const QScopedValueRollback running(isRunning, true);
     customers.Focus = FocusOn::Nothing;
     ReadFields();
     rule();
@@ -423,6 +442,7 @@ void frmCustomer::ReadFields() {
     customers.Fields.cboStates = cboStates->currentText();
     customers.Fields.txtAdd3 = txtAdd3->text();
     customers.Fields.txtAdd4 = txtAdd4->text();
+    fraSearch->Read();
 }
 
 void frmCustomer::ShowFields() {
@@ -441,6 +461,7 @@ void frmCustomer::ShowFields() {
     fraIntAddress->setVisible(!customers.UsaAddressStyle);
     ShowName();
     ShowWhere();
+    ShowFront();
     ShowEnabled();
     MoveFocus();
     isShowing = false;
@@ -469,11 +490,21 @@ void frmCustomer::ShowWhere() {
         SetWhere(name.isEmpty() ? place : name + u"  \u00b7  "_s + place);
 }
 
+void frmCustomer::ShowFront() {
+    fraSearch->Show();
+    fraCustomersFound->Show();
+    account->setVisible(!customers.fraSearchVisible && !customers.fraCustomersFoundVisible);
+    fraSearch->setVisible(customers.fraSearchVisible);
+    fraCustomersFound->setVisible(customers.fraCustomersFoundVisible);
+    cmdAutoAdvance->setText(customers.Advance.Caption());
+    autoAdvancePanel->Show();
+}
+
 void frmCustomer::ShowEnabled() {
     for (const auto& [move, button] : cmdNav)
         button->setEnabled(customers.IsNavigationEnabled);
-    Command1[FindInNameList]->setEnabled(customers.IsNavigationEnabled);
-    Command1[SelectFromList]->setEnabled(customers.IsNavigationEnabled);
+    for (const FindButton index : {SearchByCriteria, FindInNameList, SelectFromList})
+        Command1[index]->setEnabled(customers.IsNavigationEnabled);
     cmdCustomer[CancelAddNew]->setVisible(customers.IsCancelVisible);
     mnuAdd->setEnabled(customers.mnuAddEnabled);
     mnuDelete->setEnabled(customers.mnuDeleteEnabled);
@@ -501,34 +532,20 @@ void frmCustomer::MoveFocus() {
     case FocusOn::SelectButton:
         cmdCustomer[Select]->setFocus();
         break;
+    case FocusOn::SearchText:
+        fraSearch->FocusText();
+        break;
+    case FocusOn::FoundGrid:
+        fraCustomersFound->FocusGrid();
+        break;
     }
 }
 
 void frmCustomer::LeaveWithoutCustomer() {
     isShowing = true;
+    autoAdvancePanel->Stop();
     screens.Destroy(ScreenName::frmCustomer);
     screens.Show(ScreenName::frmStartup);
-}
-
-bool frmCustomer::eventFilter(QObject* watched, QEvent* event) {
-    // A turn of the wheel would choose an account as well.
-    if (watched == cboAccounts && event->type() == QEvent::Wheel) {
-        event->ignore();
-        return true;
-    }
-    if (watched == cboAccounts && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Down || key == Qt::Key_Up || key == Qt::Key_PageDown ||
-            key == Qt::Key_PageUp) {
-            // In the closed list these keys would choose an account each.
-            cboAccounts->showPopup();
-            return true;
-        }
-    }
-    if (watched == cboAccounts && event->type() == QEvent::FocusOut &&
-        IsMovedByOperator(*static_cast<QFocusEvent*>(event)))
-        cboAccounts_LostFocus();
-    return Screen::eventFilter(watched, event);
 }
 
 void frmCustomer::txtCustomer_GotFocus(CustomerText place) {
@@ -582,8 +599,6 @@ void frmCustomer::cmdCustomer_Click(Button index) {
     Run([this, index, &hasLeft] { hasLeft = customers.Leave(index == Select); });
     if (!hasLeft)
         return;
-    constexpr qint16 maintenance = 2;
-    constexpr qint16 newDelivery = 5;
     if (office.MenuChoice == newDelivery && index == Select) {
         screens.GoFrom(ScreenName::frmCustomer, ScreenName::frmDelivery);
         // Without a screen for it the customer stays; a second save of a record that was not shown
@@ -594,4 +609,24 @@ void frmCustomer::cmdCustomer_Click(Button index) {
         screens.GoFrom(ScreenName::frmCustomer, ScreenName::frmStartup);
     else
         screens.Hide(ScreenName::frmCustomer);
+}
+
+/// A search that finds no one leaves this screen where it is, behind the one that comes next.
+void frmCustomer::cmdStartSearch_Click() {
+    search.HasFoundNobody = false;
+    Run([this] { search.cmdStartSearch_Click(); });
+    if (!search.HasFoundNobody)
+        return;
+    if (office.MenuChoice == maintenance)
+        screens.Show(ScreenName::frmStartup);
+    else if (office.MenuChoice == newDelivery)
+        screens.Show(ScreenName::frmDelivery);
+}
+
+/// While a message or a menu is in front the customer under it stays, and no message comes up over
+/// another one.
+void frmCustomer::Timer1_Timer() {
+    if (isRunning || QApplication::activeModalWidget() || QApplication::activePopupWidget())
+        return;
+    Run([this] { customers.MoveTo(Move::Next); });
 }

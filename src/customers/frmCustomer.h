@@ -1,6 +1,6 @@
 #pragma once
 
-#include "customers/CustomerSelection.h"
+#include "customers/CustomerSearch.h"
 #include "platform/Screen.h"
 
 #include <QTimer>
@@ -8,12 +8,16 @@
 #include <functional>
 #include <map>
 
+class AccountBox;
+class AutoAdvancePanel;
+class CustomerSearchPanel;
+class CustomersFoundPanel;
+class EntryBox;
+class EntryField;
 class Office;
 class QLabel;
 class QPushButton;
 class Screens;
-class EntryBox;
-class EntryField;
 
 /// The customers, one at a time: where they are kept, and where a delivery starts by selecting one.
 class frmCustomer : public Screen {
@@ -37,9 +41,6 @@ public:
     /// The place in the array cmdNav behind those of Move.
     static constexpr int autoAdvance = 9;
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void MakeMenus();
     void MakeFoot();
@@ -52,6 +53,8 @@ private:
     QWidget* MakeFindCard();
     QWidget* MakeMoveCard();
     QWidget* MakeAutoAdvance();
+    QWidget* MakeSearch();
+    QWidget* MakeFound();
 
     EntryField* MakeText(CustomerText place, const QString& accessibleName, double width,
                          int limit);
@@ -71,6 +74,7 @@ private:
     void ShowFields();
     void ShowName();
     void ShowWhere();
+    void ShowFront();
     void ShowEnabled();
     void MoveFocus();
     void LeaveWithoutCustomer();
@@ -81,12 +85,17 @@ private:
     void cboAccounts_LostFocus();
     void cboAccounts_Click(int row);
     void cmdCustomer_Click(Button index);
+    void cmdStartSearch_Click();
+    void Timer1_Timer();
 
     EntryField* Text(CustomerText place) const { return txtCustomer.at(place); }
 
     Office& office;
     Screens& screens;
     CustomerSelection& customers;
+    CustomerSearch& search;
+    /// A rule is at work; a message of it may be in front.
+    bool isRunning = false;
     /// While the screen shows what a rule has done, no field is left by the operator.
     bool isShowing = false;
     QTimer behindLostFocus;
@@ -94,7 +103,7 @@ private:
     std::map<CustomerText, EntryField*> txtCustomer;
     EntryField* txtAdd3 = nullptr;
     EntryField* txtAdd4 = nullptr;
-    EntryBox* cboAccounts = nullptr;
+    AccountBox* cboAccounts = nullptr;
     EntryBox* cboTitle = nullptr;
     EntryBox* cboCity = nullptr;
     EntryBox* cboStates = nullptr;
@@ -106,6 +115,11 @@ private:
     std::map<Button, QPushButton*> cmdCustomer;
     std::map<Move, QPushButton*> cmdNav;
     std::map<FindButton, QPushButton*> Command1;
+    QPushButton* cmdAutoAdvance = nullptr;
+    AutoAdvancePanel* autoAdvancePanel = nullptr;
+    QWidget* account = nullptr;
+    CustomerSearchPanel* fraSearch = nullptr;
+    CustomersFoundPanel* fraCustomersFound = nullptr;
     QAction* mnuAdd = nullptr;
     QAction* mnuDelete = nullptr;
 };

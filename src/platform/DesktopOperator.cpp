@@ -12,6 +12,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPrinter>
+#include <QProgressDialog>
 
 using namespace Qt::StringLiterals;
 
@@ -45,6 +46,10 @@ bool Accepts(QMessageBox& box, QMessageBox::StandardButton accept,
 }
 
 } // namespace
+
+DesktopOperator::DesktopOperator() = default;
+
+DesktopOperator::~DesktopOperator() = default;
 
 Answer DesktopOperator::MsgBox(const QString& text, Buttons buttons, const QString& title) {
     QMessageBox box(QApplication::activeWindow());
@@ -121,4 +126,27 @@ void DesktopOperator::ShowBusy(bool busy) {
         QApplication::setOverrideCursor(Qt::WaitCursor);
     else
         QApplication::restoreOverrideCursor();
+}
+
+void DesktopOperator::BeginProgress(const QString& work, int steps) {
+    constexpr int milliSecondsUnshown = 500;
+    progress = std::make_unique<QProgressDialog>(work, u"Cancel"_s, 0, steps,
+                                                 QApplication::activeWindow());
+    progress->setObjectName(u"progressDialog"_s);
+    progress->setWindowTitle(ProgramTitle());
+    // Nothing else of the program can be used meanwhile.
+    progress->setWindowModality(Qt::ApplicationModal);
+    progress->setMinimumDuration(milliSecondsUnshown);
+    progress->setAutoReset(false);
+    progress->setAutoClose(false);
+    progress->setValue(0);
+}
+
+bool DesktopOperator::ShowProgress(int stepsDone) {
+    progress->setValue(stepsDone);
+    return !progress->wasCanceled();
+}
+
+void DesktopOperator::EndProgress() {
+    progress.reset();
 }

@@ -2,9 +2,18 @@
 
 #include "platform/Operator.h"
 
+#include <memory>
+
+class QProgressDialog;
+
 /// The operator at the desktop: the toolkit's own dialogs over the window in front.
 class DesktopOperator : public Operator {
 public:
+    DesktopOperator();
+    ~DesktopOperator() override;
+    DesktopOperator(const DesktopOperator&) = delete;
+    DesktopOperator& operator=(const DesktopOperator&) = delete;
+
     Answer MsgBox(const QString& text, Buttons buttons, const QString& title) override;
     std::optional<QString> InputBox(const QString& prompt, const QString& title,
                                     const QString& proposal) override;
@@ -15,4 +24,10 @@ public:
                                                   const QString& documentName) override;
     void Beep() override;
     void ShowBusy(bool busy) override;
+    void BeginProgress(const QString& work, int steps) override;
+    bool ShowProgress(int stepsDone) override;
+    void EndProgress() override;
+
+private:
+    std::unique_ptr<QProgressDialog> progress;
 };

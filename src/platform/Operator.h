@@ -41,6 +41,12 @@ public:
 
     /// Turns the mouse pointer into the hourglass, and back.
     virtual void ShowBusy(bool busy) = 0;
+
+    // How far a long work has got, with a way to stop it. Where no one watches, nobody stops it.
+    virtual void BeginProgress(const QString& /*work*/, int /*steps*/) {}
+    /// False when the operator wants the work to stop.
+    virtual bool ShowProgress(int /*stepsDone*/) { return true; }
+    virtual void EndProgress() {}
 };
 
 /// The hourglass for as long as it lives.
@@ -50,6 +56,23 @@ public:
     ~BusyPointer() { user.ShowBusy(false); }
     BusyPointer(const BusyPointer&) = delete;
     BusyPointer& operator=(const BusyPointer&) = delete;
+
+private:
+    Operator& user;
+};
+
+/// The display of a long work's progress for as long as it lives. A short work shows none.
+class Progress {
+public:
+    Progress(Operator& person, const QString& work, int steps) : user(person) {
+        user.BeginProgress(work, steps);
+    }
+    ~Progress() { user.EndProgress(); }
+    Progress(const Progress&) = delete;
+    Progress& operator=(const Progress&) = delete;
+
+    /// False when the operator wants the work to stop.
+    bool Show(int stepsDone) { return user.ShowProgress(stepsDone); }
 
 private:
     Operator& user;

@@ -20,4 +20,6 @@ Office::Office(const QString& dataFolder, const Machine& theMachine)
       weekly(slips, settings, machine.clock, machine.user),
       weeklyPrinter(weekly, printer, settings, machine.clock, machine.user),
       customerFiles(disk, machine.clock, machine.user),
-      customers(disk, customerFiles, settings, machine.user, deliveryCustomer) {}
+      customers(disk, customerFiles, settings, machine.user, deliveryCustomer),
+      customerSearch(customers, customerFiles, settings, machine.user),
+      customerReport(disk, customerFiles, printer, settings, machine.clock, machine.user) {}

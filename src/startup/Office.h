@@ -1,6 +1,8 @@
 #pragma once
 
 #include "customers/CustomerFiles.h"
+#include "customers/CustomerReport.h"
+#include "customers/CustomerSearch.h"
 #include "customers/CustomerSelection.h"
 #include "platform/Clock.h"
 #include "platform/Operator.h"
@@ -79,6 +81,8 @@ public:
     CustomerFiles customerFiles;
     DeliveryCustomer deliveryCustomer;
     CustomerSelection customers;
+    CustomerSearch customerSearch;
+    CustomerReport customerReport;
     /// The menu routine clicked last; what comes after selecting a customer depends on it.
     qint16 MenuChoice = 0;
 };

@@ -78,6 +78,29 @@ TEST(AccountNamesTest, FindsANameInUpperCaseAndTrimmed) {
     EXPECT_EQ(accounts.Find(u"Mil"_s), -1);
 }
 
+TEST(AccountNamesTest, FindsTheFirstNameThatBeginsWithATextInAnyCase) {
+    AccountNames accounts;
+    accounts.Fill({{u"zebra"_s, 1},
+                   {u"Mill Works"_s, 2},
+                   {u"MILLER"_s, 3},
+                   {u"mill"_s, 4},
+                   {u"Milan"_s, 5},
+                   {u""_s, 6},
+                   {u"Miami, Ann"_s, 7}});
+    EXPECT_EQ(NamesOf(accounts), (QStringList{u""_s, u"Miami, Ann"_s, u"Milan"_s, u"mill"_s,
+                                              u"Mill Works"_s, u"MILLER"_s, u"zebra"_s}));
+    const std::pair<QString, int> rows[] = {
+        {u"m"_s, 1},     {u"MIL"_s, 2},          {u"mill"_s, 3}, {u"mill "_s, 4},
+        {u"mille"_s, 5}, {u"MILL WORKS"_s, 4},   {u"Z"_s, 6},    {u"zebra"_s, 6},
+        {u"a"_s, -1},    {u"mill worksx"_s, -1}, {u"zz"_s, -1},  {QString(), 0}};
+    for (const auto& [text, row] : rows)
+        EXPECT_EQ(accounts.FirstBeginningWith(text), row) << text.toStdString();
+}
+
+TEST(AccountNamesTest, EmptyListBeginsWithNothing) {
+    EXPECT_EQ(AccountNames().FirstBeginningWith(u"a"_s), -1);
+}
+
 TEST(CityNamesTest, CityThatDiffersInCaseIsAnotherCity) {
     CityNames cities;
     cities.Fill({u"Springfield"_s, u"Decatur"_s, u"springfield"_s, u"Springfield"_s});

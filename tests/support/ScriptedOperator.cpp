@@ -102,6 +102,8 @@ std::optional<ScriptedOperator::Line> ScriptedOperator::NextLine(const QString& 
     EXPECT_EQ(text, line.text);
     EXPECT_EQ(buttons, line.buttons);
     EXPECT_EQ(title, line.title);
+    if (WhileMessageIsOpen)
+        WhileMessageIsOpen();
     return line;
 }
 
@@ -132,4 +134,20 @@ void ScriptedOperator::Beep() {
 
 void ScriptedOperator::ShowBusy(bool busy) {
     BusyChanges.push_back(busy);
+}
+
+void ScriptedOperator::BeginProgress(const QString& work, int steps) {
+    EXPECT_FALSE(IsWorkShown) << "Two works at once.";
+    IsWorkShown = true;
+    Works.emplace_back(work, steps);
+}
+
+bool ScriptedOperator::ShowProgress(int stepsDone) {
+    EXPECT_TRUE(IsWorkShown);
+    StepsDone.push_back(stepsDone);
+    return !StopsAtStep || stepsDone < *StopsAtStep;
+}
+
+void ScriptedOperator::EndProgress() {
+    IsWorkShown = false;
 }

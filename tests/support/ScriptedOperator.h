@@ -5,6 +5,8 @@
 #include <QString>
 
 #include <deque>
+#include <functional>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -41,6 +43,17 @@ public:
     /// The hourglass turned on (true) and off, in order.
     std::vector<bool> BusyChanges;
 
+    /// What happens while a message is open, before its answer.
+    std::function<void()> WhileMessageIsOpen;
+
+    /// The works that have told their progress, with their steps, and the steps told of.
+    std::vector<std::pair<QString, int>> Works;
+    std::vector<int> StepsDone;
+    /// A work that has begun to tell its progress has not ended yet.
+    bool IsWorkShown = false;
+    /// The operator stops the work when it has come so far.
+    std::optional<int> StopsAtStep;
+
     Answer MsgBox(const QString& text, Buttons buttons, const QString& title) override;
     std::optional<QString> InputBox(const QString& prompt, const QString& title,
                                     const QString& proposal) override;
@@ -51,6 +64,9 @@ public:
                                                   const QString& documentName) override;
     void Beep() override;
     void ShowBusy(bool busy) override;
+    void BeginProgress(const QString& work, int steps) override;
+    bool ShowProgress(int stepsDone) override;
+    void EndProgress() override;
 
 private:
     struct Line {
