@@ -30,6 +30,16 @@ void PrinterRoutines::PositionAt(float x, float y) {
         surface.CurrentY = double(y) * twipsInInch;
 }
 
+void PrinterRoutines::PrintAt(float x, const QString& text) {
+    PositionAt(x, 0);
+    surface.Print(text);
+}
+
+void PrinterRoutines::PrintLineAt(float x, const QString& text) {
+    PositionAt(x, 0);
+    surface.PrintLine(text);
+}
+
 void PrinterRoutines::SetPrintFont(int size, bool bold, bool underline) {
     if (size > 0)
         surface.FontSize = size;
@@ -78,11 +88,6 @@ void PrinterRoutines::PrintWrapped(double x, double y, int width, int height, co
     } while (surface.CurrentY < bottom && !rest.isEmpty());
 }
 
-void PrinterRoutines::PrintHeadingLine(float x, const QString& text) {
-    PositionAt(x, 0);
-    surface.PrintLine(text);
-}
-
 void PrinterRoutines::PrintHeadingAddress(float x) {
     const QString& city = settings.BusinessData[3];
     const QString& state = settings.BusinessData[4];
@@ -94,12 +99,12 @@ void PrinterRoutines::PrintHeadingAddress(float x) {
         if (!state.isEmpty())
             line += state + u". "_s + zip;
         if (!line.isEmpty())
-            PrintHeadingLine(x, line);
+            PrintLineAt(x, line);
         return;
     }
     for (const QString& line : {city, state}) {
         if (!line.isEmpty())
-            PrintHeadingLine(x, line);
+            PrintLineAt(x, line);
     }
 }
 
@@ -111,14 +116,14 @@ void PrinterRoutines::PrintBusinessHeading(float x, float y, int size) {
     SetPrintFont(size, true, false);
     surface.PrintLine(business[0]);
     SetPrintFont(smallSize, false, false);
-    PrintHeadingLine(x, business[1]);
+    PrintLineAt(x, business[1]);
     if (!business[2].isEmpty())
-        PrintHeadingLine(x, business[2]);
+        PrintLineAt(x, business[2]);
     PrintHeadingAddress(x);
     if (!business[6].isEmpty())
-        PrintHeadingLine(x, u"Telephone: "_s + business[6]);
+        PrintLineAt(x, u"Telephone: "_s + business[6]);
     for (const QString& line : {business[7], business[8]}) {
         if (!line.isEmpty())
-            PrintHeadingLine(x, line);
+            PrintLineAt(x, line);
     }
 }

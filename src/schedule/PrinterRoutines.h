@@ -19,6 +19,10 @@ public:
     void PreparePrinter(Orientation orientation, bool inColor);
     /// Inches. A value of zero or less leaves its axis alone.
     void PositionAt(float x, float y);
+    /// Prints at an X in inches, on the pen's line; the pen stays behind the text.
+    void PrintAt(float x, const QString& text);
+    /// The same, and the pen goes to the left edge of the next line.
+    void PrintLineAt(float x, const QString& text);
     /// Points; a size of zero or less leaves the size alone.
     void SetPrintFont(int size, bool bold, bool underline);
     /// With colour printing on, text is printed blue whatever the text colour setting says: that
@@ -32,7 +36,6 @@ public:
 
 private:
     QString TakeLine(QString& rest, int width);
-    void PrintHeadingLine(float x, const QString& text);
     void PrintHeadingAddress(float x);
 
     PrinterSurface& surface;

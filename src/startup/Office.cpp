@@ -17,4 +17,7 @@ Office::Office(const QString& dataFolder, const Machine& theMachine)
                  machine.clock, machine.user),
       boardPrinting(board, printer, schedulePrinter, invoiceRun, slips, settings, machine.user),
       customerFiles(disk, machine.clock, machine.user),
-      customers(disk, customerFiles, settings, machine.user, deliveryCustomer) {}
+      customers(disk, customerFiles, settings, machine.user, deliveryCustomer),
+      reportPrinter(printer, settings, machine.clock),
+      itemSales(disk, items.ProductNames, reportPrinter, settings, machine.clock, machine.user),
+      invoiceReport(disk, customerFiles, reportPrinter, settings, machine.clock, machine.user) {}

@@ -10,6 +10,9 @@
 #include "products/InventoriedItems.h"
 #include "products/NonInventoriedItems.h"
 #include "products/SalesItemLists.h"
+#include "reports/InvoiceReport.h"
+#include "reports/ItemSalesReport.h"
+#include "reports/ReportPrinter.h"
 #include "schedule/AccountLedger.h"
 #include "schedule/BoardPrinting.h"
 #include "schedule/DeliverySchedulePrinter.h"
@@ -73,6 +76,9 @@ public:
     CustomerFiles customerFiles;
     DeliveryCustomer deliveryCustomer;
     CustomerSelection customers;
+    ReportPrinter reportPrinter;
+    ItemSalesReport itemSales;
+    InvoiceReport invoiceReport;
     /// The menu routine clicked last; what comes after selecting a customer depends on it.
     qint16 MenuChoice = 0;
 };
