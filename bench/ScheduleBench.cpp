@@ -1,3 +1,4 @@
+#include "schedule/InvoiceRecords.h"
 #include "support/BenchOffice.h"
 #include "support/Comparison.h"
 #include "support/PlainFiles.h"
@@ -170,3 +171,99 @@ static void PrintSchedule(benchmark::State& state) {
         [&] { return SecondsOf([&] { benchmark::DoNotOptimize(DrawBare(tracer.Everything)); }); });
 }
 BENCHMARK(PrintSchedule)->UseManualTime()->Iterations(11)->Unit(benchmark::kMillisecond);
+
+namespace {
+
+constexpr int invoiceLines = 100;
+constexpr int products = 1'000;
+
+QString ProductName(int number) {
+    return u"Crushed stone of size "_s + QString::number(number);
+}
+
+/// A business of many products with a long invoice in the board's slip panel.
+class LongInvoice {
+public:
+    LongInvoice() {
+        QStringList names;
+        for (int number = 1; number <= products; ++number)
+            names += ProductName(number);
+        office.rules.items.ProductNames.setStringList(names);
+        GridModel& fgItems = office.rules.board.fgItems;
+        fgItems.SetRows(invoiceLines + 1);
+        for (int row = 1; row <= invoiceLines; ++row) {
+            fgItems.SetText(row, 0, QString::number(row));
+            fgItems.SetText(row, 1, ProductName(row * (products / invoiceLines)));
+        }
+        SlipCaptions& slip = office.rules.board.fraSlip;
+        slip.lblCustomer[0] = u"Corner Grocery"_s;
+        slip.lblAcctNo = u"4471"_s;
+        slip.lblGrandtotal = u"$20.79"_s;
+        slip.lblTaxHeading1 = u"Sales Tax"_s;
+        slip.lblTaxHeading2 = u"County Tax"_s;
+        office.rules.board.LoadInvoiceNumber();
+    }
+
+    /// The posting steps of a confirmed invoice.
+    void Post() {
+        Office& rules = office.rules;
+        const SlipCaptions& slip = rules.board.fraSlip;
+        const auto amount = [](qint64 count) { return Currency::OfTenThousandths(count); };
+        rules.invoicePosting.PostSoldItems(rules.board.fgItems, invoiceLines, slip.lblInvoice);
+        rules.invoicePosting.PostJournal(slip.lblCustomer[0], slip.lblAcctNo, slip.lblInvoice,
+                                         amount(146'500), amount(11'400), amount(207'900),
+                                         amount(0), office.clock.Today());
+        rules.accountLedger.WriteReceivable(slip);
+        rules.invoicePosting.PostTaxRecords(amount(9'200), amount(2'200), slip.lblTaxHeading1,
+                                            slip.lblTaxHeading2, slip.lblInvoice);
+        rules.board.AdvanceInvoiceNumber();
+        rules.board.LoadInvoiceNumber();
+    }
+
+    std::string PathOf(const QString& name) const { return (folder.Path() + name).toStdString(); }
+
+private:
+    BenchFolder folder;
+    BenchOffice office{folder.Path()};
+};
+
+/// The last records of a file.
+std::vector<std::string> LastRecords(const std::string& path, size_t recordLength, size_t count) {
+    std::vector<std::string> records;
+    PlainReadRecords(path, recordLength,
+                     [&](const char* record) { records.emplace_back(record, recordLength); });
+    records.erase(records.begin(), records.end() - std::ptrdiff_t(count));
+    return records;
+}
+
+} // namespace
+
+static void PostInvoice(benchmark::State& state) {
+    LongInvoice posted;
+    posted.Post();
+    struct RecordFile {
+        QString name;
+        std::vector<std::string> records;
+    };
+    const auto recordsOf = [&](const QString& name, size_t length, size_t count) {
+        return RecordFile{name, LastRecords(posted.PathOf(name), length, count)};
+    };
+    const std::vector<RecordFile> files = {
+        recordsOf(soldItemsFile, sizeof(SoldItemRecord), invoiceLines),
+        recordsOf(journalFile, sizeof(JournalRecord), 1),
+        recordsOf(u"/NXActiveAccounts/4471.txt"_s, sizeof(LedgerEntry), 1),
+        recordsOf(taxRecordsFile, sizeof(TaxRecord), 2)};
+    LongInvoice bare;
+    bare.Post();
+    CompareWithFloor(
+        state,
+        {"Posting an invoice of 100 lines with 1,000 products against writing its records", 3.0},
+        [&] { return SecondsOf([&] { posted.Post(); }); },
+        [&] {
+            return SecondsOf([&] {
+                for (const RecordFile& file : files)
+                    PlainAppendRecords(bare.PathOf(file.name), file.records);
+            });
+        });
+}
+BENCHMARK(PostInvoice)->UseManualTime()->Iterations(101)->Unit(benchmark::kMicrosecond);

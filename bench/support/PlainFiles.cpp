@@ -75,6 +75,14 @@ void PlainWrite(const std::string& path, const std::string& bytes) {
     Checked(::close(file), path);
 }
 
+void PlainAppendRecords(const std::string& path, const std::vector<std::string>& records) {
+    const int file = Open(path, O_WRONLY | O_CREAT);
+    off_t end = Checked(::lseek(file, 0, SEEK_END), path);
+    for (const std::string& record : records)
+        end += Checked(::pwrite(file, record.data(), record.size(), end), path);
+    Checked(::close(file), path);
+}
+
 void PlainRemove(const std::string& path) {
     Checked(::unlink(path.c_str()), path);
 }

@@ -17,6 +17,8 @@ std::string PlainRead(const std::string& path);
 void PlainReadRecords(const std::string& path, size_t recordLength,
                       const std::function<void(const char* record)>& use);
 void PlainWrite(const std::string& path, const std::string& bytes);
+/// Each of the records behind what is in the file, written one by one.
+void PlainAppendRecords(const std::string& path, const std::vector<std::string>& records);
 void PlainRemove(const std::string& path);
 void PlainRename(const std::string& from, const std::string& to);
 

@@ -94,3 +94,8 @@ TEST(RuntimeFailureTest, PassOverLetsOtherExceptionsThrough) {
     EXPECT_THROW(PassOver([] { throw std::logic_error("a mistake in the program"); }),
                  std::logic_error);
 }
+
+TEST(RuntimeFailureTest, PassOverLetsAFailureThroughThatEndsTheProgram) {
+    EXPECT_THROW(PassOver([] { throw EndingFailure(FailureKind::Overflow, u"The end."_s); }),
+                 EndingFailure);
+}

@@ -98,3 +98,23 @@ TEST_F(InvoiceNumberTest, EmptyFileIsReadPastItsEnd) {
     EXPECT_EQ(FailureOf([&] { invoiceNumber.LoadInvoiceNumber(); }).Kind(),
               FailureKind::ReadPastEnd);
 }
+
+TEST_F(InvoiceNumberTest, AdvancingSavesTheNumberBehindTheOneShown) {
+    folder.Write(u"NXInvoiceNo.txt"_s, "7\r\n");
+    folder.Write(u"Backup/NXInvoiceNo.txt"_s, "6\r\n");
+    invoiceNumber.AdvanceInvoiceNumber(u"20260041"_s);
+    EXPECT_EQ(folder.Read(u"NXInvoiceNo.txt"_s), QByteArray("20260042\r\n"));
+    EXPECT_FALSE(folder.Has(u"Backup/NXInvoiceNo.txt"_s));
+}
+
+TEST_F(InvoiceNumberTest, LastNumberAndTextCanNotAdvanceAndLeaveTheFileAlone) {
+    folder.Write(u"NXInvoiceNo.txt"_s, "2147483647\r\n");
+    invoiceNumber.AdvanceInvoiceNumber(u"2147483646"_s);
+    EXPECT_EQ(FailureOf([this] { invoiceNumber.AdvanceInvoiceNumber(u"2147483647"_s); }).Kind(),
+              FailureKind::Overflow);
+    EXPECT_EQ(FailureOf([this] { invoiceNumber.AdvanceInvoiceNumber(u"next"_s); }).Kind(),
+              FailureKind::TypeMismatch);
+    EXPECT_EQ(FailureOf([this] { invoiceNumber.AdvanceInvoiceNumber({}); }).Kind(),
+              FailureKind::TypeMismatch);
+    EXPECT_EQ(folder.Read(u"NXInvoiceNo.txt"_s), QByteArray("2147483647\r\n"));
+}

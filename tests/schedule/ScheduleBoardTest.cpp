@@ -164,6 +164,16 @@ TEST_F(ScheduleBoardTest, InitformShowsTheNextInvoiceNumber) {
     EXPECT_EQ(board.fraSlip.lblInvoice, u"20260042"_s);
 }
 
+TEST_F(ScheduleBoardTest, NumberShownMovesOnlyWithTheLoadBehindTheAdvance) {
+    folder.Write(u"NXInvoiceNo.txt"_s, "20260042\r\n");
+    board.Initform({});
+    board.AdvanceInvoiceNumber();
+    EXPECT_EQ(board.fraSlip.lblInvoice, u"20260042"_s);
+    EXPECT_EQ(folder.Read(u"NXInvoiceNo.txt"_s), QByteArray("20260043\r\n"));
+    board.LoadInvoiceNumber();
+    EXPECT_EQ(board.fraSlip.lblInvoice, u"20260043"_s);
+}
+
 TEST_F(ScheduleBoardTest, InvoiceNumberDeletedIsStartedAgainByTheNextInitform) {
     board.Initform({});
     folder.Remove(u"NXInvoiceNo.txt"_s);

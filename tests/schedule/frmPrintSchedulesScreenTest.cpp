@@ -82,6 +82,28 @@ protected:
         const QRect place = vehicles->visualRect(vehicles->model()->index(row, 0));
         QTest::mouseClick(vehicles->viewport(), Qt::LeftButton, Qt::NoModifier, place.center());
     }
+    /// The board of the business with invoices ticked and the schedule not.
+    void OpenForInvoices(bool isPopulated) {
+        WriteMasterFiles();
+        folder.Remove(u"Vehicles.txt"_s);
+        WriteBusiness();
+        Open();
+        Click(board, u"ckPrintWorkSchedule"_s);
+        Click(board, u"ckMInvoices"_s);
+        Find<QCheckBox>(board, u"ckPopulated"_s)->setChecked(isPopulated);
+    }
+    void ExpectConfirmation(Answer answer) {
+        user.ExpectQuestion(u"Was the Invoice Printed Correctly"_s, u"Printing Confirmation"_s,
+                            answer);
+    }
+    void ExpectDeleteQuestion(Answer answer) {
+        user.ExpectQuestion(u"Would you like to DELETE the Recurring Slip?"_s,
+                            u"Delete a Recurring Slip"_s, answer);
+    }
+    void ExpectClosingQuestion(Answer answer) {
+        user.ExpectQuestion(u"Would you like to Remove\nDeliveries from the Grid"_s,
+                            u"Remove Items"_s, answer);
+    }
     void ClickHeading(int column) {
         QHeaderView* heading = grid->horizontalHeader();
         QTest::mouseClick(
@@ -146,7 +168,10 @@ TEST_F(PrintSchedulesScreen, ControlsCarryTheirTexts) {
     auto* workSchedule = Find<QCheckBox>(board, u"ckPrintWorkSchedule"_s);
     EXPECT_EQ(populated->text(), u"Populate Invoices"_s);
     EXPECT_EQ(workSchedule->text(), u"Print Delivery Schedule"_s);
-    EXPECT_EQ(Find<QCheckBox>(board, u"ckMInvoices"_s)->text(), u"Print Invoices"_s);
+    auto* invoices = Find<QCheckBox>(board, u"ckMInvoices"_s);
+    EXPECT_EQ(invoices->text(), u"Print Invoices"_s);
+    EXPECT_EQ(invoices->toolTip(), u"if checked, Invoices for selected Deliveries"_s);
+    EXPECT_TRUE(invoices->isEnabled());
     EXPECT_EQ(populated->toolTip(), u"Unchecked- Prints Blank Invoices"_s);
     EXPECT_EQ(workSchedule->toolTip(), u"If checked, Delivery List will Print"_s);
     EXPECT_EQ(Find<QListView>(board, u"lstVehicles"_s)->toolTip(), u"Select an Assignment"_s);
@@ -546,6 +571,86 @@ TEST_F(PrintSchedulesScreen, UntickedScheduleDoesNotPrint) {
     Click(board, u"cmdPrint(6)"_s);
     Click(board, u"cmdPrint(3)"_s);
     EXPECT_TRUE(printer.Texts.empty());
+}
+
+TEST_F(PrintSchedulesScreen, InvoiceIsPostedTheNextNumberShownAndTheMenuBack) {
+    OpenForInvoices(true);
+    ClickCell(grid, 1, selectColumn);
+    ExpectConfirmation(Answer::Yes);
+    ExpectDeleteQuestion(Answer::Yes);
+    user.ExpectMessage(u"Delivery Slip 502 scheduled for 3/9/2026 has been Deleted"_s);
+    ExpectClosingQuestion(Answer::Yes);
+    Click(board, u"cmdPrint(3)"_s);
+    user.ExpectNothingLeft();
+    EXPECT_TRUE(Failures().empty());
+    EXPECT_EQ(printer.Jobs, 1);
+    printer.Find(u"INVOICE NO: 20260001"_s);
+    EXPECT_EQ(folder.Read(u"InvoiceSalesJournal.txt"_s).size(), 125);
+    EXPECT_EQ(folder.Read(u"NXActiveAccounts/4471.txt"_s).size(), 310);
+    EXPECT_EQ(folder.Read(u"NXInvoiceNo.txt"_s), QByteArray("20260002\r\n"));
+    EXPECT_EQ(Caption(u"lblInvoice"_s), u"20260002"_s);
+    EXPECT_FALSE(IsShown(board));
+    EXPECT_TRUE(IsShown(ScreenName::frmStartup));
+    EXPECT_EQ(Cell(1, selectColumn), QString());
+    EXPECT_TRUE(office.board.lstWorkSchedule.stringList().isEmpty());
+}
+
+TEST_F(PrintSchedulesScreen, ClosingNoLeavesTheMarksForTheNextTime) {
+    OpenForInvoices(false);
+    Click(board, u"cmdPrint(6)"_s);
+    ExpectConfirmation(Answer::Yes);
+    ExpectConfirmation(Answer::Yes);
+    ExpectClosingQuestion(Answer::No);
+    Click(board, u"cmdPrint(3)"_s);
+    EXPECT_EQ(printer.Jobs, 2);
+    EXPECT_EQ(Cell(1, selectColumn), u" \u00ab"_s);
+    EXPECT_EQ(Cell(2, selectColumn), u" \u00ab"_s);
+    EXPECT_EQ(Caption(u"lblInvoice"_s), u"20260001"_s);
+    EXPECT_FALSE(IsShown(board));
+    EXPECT_TRUE(IsShown(ScreenName::frmStartup));
+}
+
+TEST_F(PrintSchedulesScreen, PanelHoldsTheSlipOfTheInvoice) {
+    OpenForInvoices(false);
+    Click(board, u"cmdPrint(6)"_s);
+    ClickCell(grid, 2, customerColumn);
+    office.board.fgSchedule.SetText(1, selectColumn, {});
+    office.board.fgSchedule.SetCurrent(1, customerColumn);
+    ExpectConfirmation(Answer::Yes);
+    ExpectClosingQuestion(Answer::No);
+    Click(board, u"cmdPrint(3)"_s);
+    EXPECT_EQ(Caption(u"lblCustomer(0)"_s), u"Corner Grocery"_s);
+}
+
+TEST_F(PrintSchedulesScreen, KeepingTheInvoicedSlipEndsTheProgramWithTheFailureReport) {
+    OpenForInvoices(true);
+    ClickCell(grid, 1, selectColumn);
+    ExpectConfirmation(Answer::Yes);
+    ExpectDeleteQuestion(Answer::No);
+    Click(board, u"cmdPrint(3)"_s);
+    ASSERT_EQ(Failures().size(), 1U);
+    EXPECT_EQ(Failures()[0].Kind(), FailureKind::Overflow);
+    EXPECT_TRUE(folder.Has(HeaderName(u"502"_s)));
+    EXPECT_EQ(folder.Read(u"InvoiceSalesJournal.txt"_s).size(), 125);
+    EXPECT_TRUE(IsShown(board));
+}
+
+TEST_F(PrintSchedulesScreen, FailureOnTheWayToAnInvoiceIsToldAndTheBoardStays) {
+    OpenForInvoices(true);
+    ClickCell(grid, 1, selectColumn);
+    folder.Remove(ItemName(u"502"_s));
+    user.ExpectMessage(u"A Print Error has occurred"_s, u"Print Error"_s);
+    Click(board, u"cmdPrint(3)"_s);
+    EXPECT_TRUE(Failures().empty());
+    EXPECT_TRUE(IsShown(board));
+    EXPECT_EQ(printer.Jobs, 0);
+}
+
+TEST_F(PrintSchedulesScreen, InvoicesAreNotTickedWhenTheBoardOpens) {
+    WriteBusiness();
+    Open();
+    EXPECT_FALSE(Find<QCheckBox>(board, u"ckMInvoices"_s)->isChecked());
+    EXPECT_TRUE(Find<QCheckBox>(board, u"ckPrintWorkSchedule"_s)->isChecked());
 }
 
 TEST_F(PrintSchedulesScreen, SpaceMarksTheCurrentRow) {

@@ -183,6 +183,13 @@ TEST_F(BasicDiskRoutinesTest, CopyOntoAFullDiskFailsAndLeavesNoHalfFile) {
 
 // Counting records.
 
+TEST_F(BasicDiskRoutinesTest, FileLengthIsInBytesAndAMissingFileAFailure) {
+    folder.Write(u"Vehicles.txt"_s, QByteArray(205, ' '));
+    EXPECT_EQ(disk.FileLength(u"/Vehicles.txt"_s), 205);
+    EXPECT_EQ(FailureOf([this] { (void)disk.FileLength(u"/Phone.txt"_s); }).Kind(),
+              FailureKind::FileNotFound);
+}
+
 TEST_F(BasicDiskRoutinesTest, RecordCountOfAMissingFileIsZeroAndCreatesNothing) {
     EXPECT_EQ(disk.RecordCount(u"/Vehicles.txt"_s, 137), 0);
     EXPECT_EQ(folder.Everything(), QStringList());

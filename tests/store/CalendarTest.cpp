@@ -249,3 +249,9 @@ TEST_F(CalendarTest, MonthsLaterKeepsTheDayOrFallsToTheLastOfTheMonth) {
     EXPECT_EQ(MonthsLater(QDate(2028, 1, 31), 1), QDate(2028, 2, 29));
     EXPECT_EQ(MonthsLater(QDate(2026, 12, 31), 1), QDate(2027, 1, 31));
 }
+
+TEST_F(CalendarTest, StepBeyondTheCalendarEndsTheProgramOnEveryRoad) {
+    EXPECT_EQ(LastDateOfCalendar(), QDate(9999, 12, 31));
+    EXPECT_THROW(DaysLater(LastDateOfCalendar(), 1), EndingFailure);
+    EXPECT_THROW(MonthsLater(LastDateOfCalendar(), 1), EndingFailure);
+}

@@ -186,6 +186,24 @@ TEST_F(ConversionsTest, NumberTextHasTheRegionalMarkAndNoGrouping) {
     EXPECT_EQ(NumberText(1250.5), u"1250,5"_s);
 }
 
+TEST_F(ConversionsTest, NumberTextOfAnAmountHasAllItsDigits) {
+    const std::pair<qint64, QString> amounts[] = {
+        {0, u"0"_s},
+        {9'200, u"0.92"_s},
+        {125'000, u"12.5"_s},
+        {12'500'000, u"1250"_s},
+        {1, u"0.0001"_s},
+        {-1, u"-0.0001"_s},
+        {-35'000, u"-3.5"_s},
+        {9'999'999'999'999'999, u"999999999999.9999"_s},
+        {9'223'372'036'854'775'807, u"922337203685477.5807"_s},
+        {std::numeric_limits<qint64>::min(), u"-922337203685477.5808"_s}};
+    for (const auto& [count, text] : amounts)
+        EXPECT_EQ(NumberText(Currency::OfTenThousandths(count)), text);
+    UseLocale("de_DE");
+    EXPECT_EQ(NumberText(Currency::OfTenThousandths(12'505'000)), u"1250,5"_s);
+}
+
 // Amounts.
 
 TEST_F(ConversionsTest, CurrencyTextRoundsHalfAwayFromZeroAsThePersonReadsTheNumber) {

@@ -212,3 +212,33 @@ TEST_F(FixedRecordTest, RecordLongerThanTheFilesFails) {
     EXPECT_EQ(FailureOf([this] { ReadRecord<SampleRecord>(disk, disk.DiskFile, 1); }).Kind(),
               FailureKind::BadRecord);
 }
+
+TEST_F(FixedRecordTest, RecordIsAddedBehindTheLastAndAllFilesAreClosed) {
+    AppendRecord(disk, u"/Sample.txt"_s, SampleRecord{});
+    SampleRecord second{};
+    second.Name = u"Van"_s;
+    AppendRecord(disk, u"/Sample.txt"_s, second);
+    const QByteArray records = folder.Read(u"Sample.txt"_s);
+    EXPECT_EQ(records.size(), 60);
+    EXPECT_EQ(records.left(30), QByteArray(30, '\0'));
+    EXPECT_EQ(records.mid(30, 3), QByteArray("Van"));
+    EXPECT_EQ(FailureOf([this] { ReadRecord<SampleRecord>(disk, disk.DiskFile, 1); }).Kind(),
+              FailureKind::FileNotOpen);
+}
+
+TEST_F(FixedRecordTest, RecordIsAddedToACopyBroughtBack) {
+    folder.Write(u"Backup/Sample.txt"_s, QByteArray(30, 'x'));
+    AppendRecord(disk, u"/Sample.txt"_s, SampleRecord{});
+    EXPECT_EQ(folder.Read(u"Sample.txt"_s), QByteArray(30, 'x') + QByteArray(30, '\0'));
+}
+
+TEST_F(FixedRecordTest, AddingBehind32767RecordsIsAnOverflowThatNamesTheFile) {
+    const QByteArray full(32'767 * 30, 'x');
+    folder.Write(u"Sample.txt"_s, full);
+    const RuntimeFailure failure =
+        FailureOf([this] { AppendRecord(disk, u"/Sample.txt"_s, SampleRecord{}); });
+    EXPECT_EQ(failure.Kind(), FailureKind::Overflow);
+    EXPECT_EQ(failure.Sentence(),
+              u"The number 32768 is outside its range (adding to Sample.txt)."_s);
+    EXPECT_TRUE(folder.Read(u"Sample.txt"_s) == full);
+}
