@@ -1,5 +1,6 @@
 #include "customers/CustomerFiles.h"
 
+#include "customers/CustomerNames.h"
 #include "platform/RegionalFormats.h"
 
 using namespace Qt::StringLiterals;
@@ -56,6 +57,14 @@ void CustomerFiles::ReadContractAndCycle(qint32 number) {
         Cycle = ReadRecord<CycleRecord>(disk, disk.DiskFile2, number);
         disk.CloseAllFiles();
     }
+}
+
+QStringList CustomerFiles::AccountNumbers() {
+    const CustomerRecord inHand = Customer;
+    QStringList numbers;
+    VisitAll(Count(), [&](qint32) { numbers += ShownText(Customer.AcctNo); });
+    Customer = inHand;
+    return numbers;
 }
 
 void CustomerFiles::WriteCustomer(qint32 number) {

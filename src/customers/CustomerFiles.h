@@ -4,6 +4,8 @@
 #include "platform/Clock.h"
 #include "platform/Operator.h"
 
+#include <QStringList>
+
 /// The three parallel customer files, CustomerData.txt, ContractInfo.txt and CycleInfo.txt, and one
 /// record buffer for each. Nothing of a file stays open between two operations.
 class CustomerFiles {
@@ -50,6 +52,9 @@ public:
         }
         disk.CloseAllFiles();
     }
+
+    /// The account numbers of all customers, in the order of the file. Leaves the buffer as it is.
+    QStringList AccountNumbers();
 
     /// Whether another of the first `count` customers than `except` has that account number, to
     /// the letter.

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 GridModel::GridModel(const QStringList& headings, QObject* parent)
     : QAbstractTableModel(parent), cells(1, {headings.begin(), headings.end()}),
-      rightAligned(size_t(headings.size())) {}
+      alignments(size_t(headings.size()), Qt::AlignLeft) {}
 
 GridModel::Refill::Refill(GridModel& model) : grid(model) {
     if (grid.refills++ == 0)
@@ -116,12 +116,15 @@ void GridModel::SortAsNumbers(int column, CellNumber numberOf) {
 }
 
 void GridModel::AlignRight(int column) {
-    rightAligned.at(size_t(column)) = true;
+    alignments.at(size_t(column)) = Qt::AlignRight;
+}
+
+void GridModel::AlignCentre(int column) {
+    alignments.at(size_t(column)) = Qt::AlignHCenter;
 }
 
 QVariant GridModel::AlignmentOf(int column) const {
-    return int((rightAligned.at(size_t(column)) ? Qt::AlignRight : Qt::AlignLeft) |
-               Qt::AlignVCenter);
+    return (alignments.at(size_t(column)) | Qt::AlignVCenter).toInt();
 }
 
 int GridModel::rowCount(const QModelIndex& parent) const {

@@ -43,6 +43,8 @@ public:
 
     /// Lets a column of amounts or counts, and its heading, line up on the right.
     void AlignRight(int column);
+    /// Lets a column and its heading stand in the middle.
+    void AlignCentre(int column);
 
     /// Sorts the data rows on a column; rows that `isBefore` finds equal keep their order.
     void Sort(int column, CellOrder isBefore);
@@ -80,5 +82,5 @@ private:
     int currentRow = 0;
     int currentColumn = 0;
     int refills = 0;
-    std::vector<bool> rightAligned;
+    std::vector<Qt::Alignment> alignments;
 };

@@ -22,4 +22,7 @@ Office::Office(const QString& dataFolder, const Machine& theMachine)
       customerFiles(disk, machine.clock, machine.user),
       customers(disk, customerFiles, settings, machine.user, deliveryCustomer),
       customerSearch(customers, customerFiles, settings, machine.user),
-      customerReport(disk, customerFiles, printer, settings, machine.clock, machine.user) {}
+      customerReport(disk, customerFiles, printer, settings, machine.clock, machine.user),
+      reportPrinter(printer, settings, machine.clock),
+      itemSales(disk, items.ProductNames, reportPrinter, settings, machine.clock, machine.user),
+      invoiceReport(disk, customerFiles, reportPrinter, settings, machine.clock, machine.user) {}

@@ -12,6 +12,9 @@
 #include "products/InventoriedItems.h"
 #include "products/NonInventoriedItems.h"
 #include "products/SalesItemLists.h"
+#include "reports/InvoiceReport.h"
+#include "reports/ItemSalesReport.h"
+#include "reports/ReportPrinter.h"
 #include "schedule/AccountLedger.h"
 #include "schedule/BoardPrinting.h"
 #include "schedule/DeliverySchedulePrinter.h"
@@ -83,6 +86,9 @@ public:
     CustomerSelection customers;
     CustomerSearch customerSearch;
     CustomerReport customerReport;
+    ReportPrinter reportPrinter;
+    ItemSalesReport itemSales;
+    InvoiceReport invoiceReport;
     /// The menu routine clicked last; what comes after selecting a customer depends on it.
     qint16 MenuChoice = 0;
 };

@@ -2,6 +2,9 @@
 
 #include "customers/frmCustomer.h"
 #include "products/frmServices.h"
+#include "reports/frmInvoiceReport.h"
+#include "reports/frmSalesReport.h"
+#include "reports/frmTaxForm.h"
 #include "schedule/frmPrintSchedules.h"
 #include "schedule/frmWeekly.h"
 #include "setup/frmHolidays.h"
@@ -25,9 +28,6 @@ Screens::~Screens() {
 bool Screens::IsBuilt(ScreenName name) {
     switch (name) {
     case ScreenName::frmDelivery:
-    case ScreenName::frmTaxForm:
-    case ScreenName::frmSalesReport:
-    case ScreenName::frmInvoiceReport:
         return false;
     default:
         return true;
@@ -54,6 +54,12 @@ std::unique_ptr<Screen> Screens::Make(ScreenName name) {
         return std::make_unique<frmServices>(office, *this);
     case ScreenName::frmCustomer:
         return std::make_unique<frmCustomer>(office, *this);
+    case ScreenName::frmTaxForm:
+        return std::make_unique<frmTaxForm>(office, *this);
+    case ScreenName::frmSalesReport:
+        return std::make_unique<frmSalesReport>(office, *this);
+    case ScreenName::frmInvoiceReport:
+        return std::make_unique<frmInvoiceReport>(office, *this);
     default:
         return nullptr;
     }
