@@ -94,7 +94,7 @@ protected:
         invoices.PrintInvoice(invoice);
     }
     void PrintOn(PrinterSurface& surface) {
-        PrinterRoutines routines(surface, settings);
+        PrinterRoutines routines(surface, settings, user);
         NXPrint(routines, settings, office.logo, clock).PrintInvoice(Filled());
     }
 
