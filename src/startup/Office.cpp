@@ -10,6 +10,7 @@ Office::Office(const QString& dataFolder, const Machine& theMachine)
       items(disk), fleet(disk, items, machine.user), inventoriedItems(disk, machine.user),
       nonInventoriedItems(disk),
       board(disk, slips, calendar, settings, machine.clock, machine.user),
+      addedItems(board, items, slips, settings, machine.user),
       printer(machine.printer, settings, machine.user),
       schedulePrinter(board, printer, settings, machine.user),
       invoicePrinter(printer, settings, logo, machine.clock),

@@ -16,6 +16,7 @@
 #include "reports/ItemSalesReport.h"
 #include "reports/ReportPrinter.h"
 #include "schedule/AccountLedger.h"
+#include "schedule/AddedItems.h"
 #include "schedule/BoardPrinting.h"
 #include "schedule/DeliverySchedulePrinter.h"
 #include "schedule/InvoicePosting.h"
@@ -72,6 +73,7 @@ public:
     InventoriedItems inventoriedItems;
     NonInventoriedItems nonInventoriedItems;
     ScheduleBoard board;
+    AddedItems addedItems;
     PrinterRoutines printer;
     DeliverySchedulePrinter schedulePrinter;
     NXPrint invoicePrinter;
