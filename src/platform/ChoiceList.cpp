@@ -11,10 +11,8 @@ void ChoiceList::mousePressEvent(QMouseEvent* event) {
         QListView::mousePressEvent(event);
 }
 
-/// Entries may have been given their places before the program's look had a say in them. What is
-/// chosen is in sight.
+/// Entries may have been given their places before the program's look had a say in them.
 void ChoiceList::showEvent(QShowEvent* event) {
     QListView::showEvent(event);
     doItemsLayout();
-    scrollTo(currentIndex());
 }

@@ -26,6 +26,7 @@ constexpr int bodyTop = 14;
 constexpr double sideWidth = 15.5;
 constexpr double gridHeight = 8;
 constexpr double choicesHeight = 8;
+constexpr double timesWidth = 8;
 constexpr double factsWidth = 10;
 constexpr int factsGap = 4;
 constexpr int headingGap = 4;
@@ -205,6 +206,7 @@ QWidget* frmWeekly::MakeReschedulePanel() {
     lstTime = MakeList(u"lstTime"_s, u"New Time"_s, office.deliveryTimes);
     lstTime->setCurrentIndex(office.deliveryTimes.index(DeliveryTimes::firstSelection));
     lstTime->setFixedHeight(Em(choicesHeight));
+    lstTime->setMinimumWidth(Em(timesWidth));
     lstRescheduleVehicles =
         MakeList(u"lstRescheduleVehicles"_s, u"New Vehicle"_s, office.fleet.Names);
     lstRescheduleVehicles->setFixedHeight(Em(choicesHeight));
@@ -405,9 +407,12 @@ void frmWeekly::cmdweekly_RescheduleDelivery() {
     Choose(*lstRescheduleVehicles, office.fleet.Names, panel.lstRescheduleVehicles);
     ShowReschedule();
     dtReschedule->setFocus();
-    // The panel takes room from the grid; the row it is about stays in sight.
+    // The panel takes room from the grid; the row it is about stays in sight, as does what is
+    // chosen.
     QCoreApplication::sendPostedEvents(Body(), QEvent::LayoutRequest);
-    fgWeekly->scrollTo(fgWeekly->currentIndex());
+    for (QAbstractItemView* view :
+         std::initializer_list<QAbstractItemView*>{fgWeekly, lstTime, lstRescheduleVehicles})
+        view->scrollTo(view->currentIndex());
 }
 
 void frmWeekly::cmdweekly_SaveDelivery() {
