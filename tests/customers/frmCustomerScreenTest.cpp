@@ -1,8 +1,5 @@
-#include "customers/SampleCustomers.h"
-#include "customers/frmCustomer.h"
-#include "platform/EntryField.h"
+#include "customers/CustomerScreen.h"
 #include "platform/WindowLayout.h"
-#include "support/ScreenTest.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -19,78 +16,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr ScreenName screen = ScreenName::frmCustomer;
-
-const QString customerFile = u"CustomerData.txt"_s;
-const QString contractFile = u"ContractInfo.txt"_s;
-const QString cycleFile = u"CycleInfo.txt"_s;
 const QString later = u"Not part of this version yet"_s;
 const QString notBuilt = u"This routine is not part of this version yet."_s;
 
 } // namespace
-
-class CustomerScreen : public ScreenTest {
-protected:
-    void WriteCustomers(const QList<SampleCustomer>& records) {
-        WriteMasterFiles();
-        QByteArray bytes;
-        for (const SampleCustomer& record : records)
-            bytes += record.Bytes();
-        folder.Write(customerFile, bytes);
-        folder.Write(contractFile, Siblings(int(records.size()), 386));
-        folder.Write(cycleFile, Siblings(int(records.size()), 69));
-    }
-    /// Three customers: a business, a person, a business.
-    void OpenThree(qint16 menuChoice = 2) {
-        WriteCustomers({SampleCustomer{}, Person("Lee", "Ann", "1002", "Mr/Mrs"),
-                        SampleCustomer{.account = "77", .businessName = "Anvil Works"}});
-        Open(menuChoice);
-    }
-    void OpenEmpty() {
-        WriteMasterFiles();
-        folder.Remove(customerFile);
-        user.ExpectMessage(u"Your Customer File is Empty\nCreate your First Customer Now"_s,
-                           u"Create Customers"_s);
-        Open(2);
-    }
-    void Open(qint16 menuChoice) {
-        office.MenuChoice = menuChoice;
-        screens.Show(screen);
-        ASSERT_TRUE(QTest::qWaitForWindowActive(screens.Find(screen)));
-    }
-
-    EntryField* Text(int index) {
-        return Find<EntryField>(screen, u"txtCustomer(%1)"_s.arg(index));
-    }
-    QString Shown(int index) { return Text(index)->text(); }
-    QComboBox* Combo(const QString& name) { return Find<QComboBox>(screen, name); }
-    QAbstractButton* Button(const QString& name) { return Find<QAbstractButton>(screen, name); }
-    QAction* Item(const QString& name) { return Find<QAction>(screen, name); }
-    QWidget* Control(const QString& name) { return Find<QWidget>(screen, name); }
-    QString Where() { return Find<QLabel>(screen, u"where"_s)->text(); }
-    QString Focused() {
-        const QWidget* focus = screens.Find(screen)->focusWidget();
-        return focus ? focus->objectName() : QString();
-    }
-    void Enter(int index, const QString& text) {
-        Text(index)->setFocus();
-        Text(index)->selectAll();
-        Type(Text(index), text);
-    }
-    void ChooseFromPopup(int row) {
-        QComboBox* accounts = Combo(u"cboAccounts"_s);
-        accounts->showPopup();
-        QAbstractItemView* list = accounts->view();
-        const QRect place = list->visualRect(list->model()->index(row, 0));
-        // The list takes no click within the time of a double click after it has opened.
-        QTest::qWait(QApplication::doubleClickInterval() + 50);
-        QTest::mouseMove(list->viewport(), place.center());
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, place.center());
-    }
-    QByteArray CustomerOnDisk(int number) const {
-        return folder.Read(customerFile).mid((number - 1) * 328, 328);
-    }
-};
 
 TEST_F(CustomerScreen, ControlsCarryTheirCaptionsAndToolTips) {
     OpenThree();
@@ -531,6 +460,47 @@ TEST_F(CustomerScreen, FirstLettersBringTheWholeNameWithTheRestSelected) {
     EXPECT_EQ(accounts->lineEdit()->selectedText(), u"rner Grocery"_s);
     Press(accounts, Qt::Key_Backspace);
     EXPECT_EQ(accounts->currentText(), u"co"_s);
+}
+
+TEST_F(CustomerScreen, FurtherLettersReplaceTheRest) {
+    OpenThree();
+    Click(screen, u"Command1(1)"_s);
+    QComboBox* accounts = Combo(u"cboAccounts"_s);
+    Type(accounts, u"cO"_s);
+    EXPECT_EQ(accounts->currentText(), u"cOrner Grocery"_s) << "the letters typed stay";
+    Type(accounts, u"rx"_s);
+    EXPECT_EQ(accounts->currentText(), u"cOrx"_s);
+    EXPECT_EQ(accounts->lineEdit()->selectedText(), QString());
+    EXPECT_EQ(accounts->lineEdit()->cursorPosition(), 4);
+    Press(accounts, Qt::Key_Backspace);
+    EXPECT_EQ(accounts->currentText(), u"cOr"_s);
+    Type(accounts, u"n"_s);
+    EXPECT_EQ(accounts->currentText(), u"cOrner Grocery"_s);
+}
+
+TEST_F(CustomerScreen, DeleteKeyKeepsTheRestAway) {
+    OpenThree();
+    Click(screen, u"Command1(1)"_s);
+    QComboBox* accounts = Combo(u"cboAccounts"_s);
+    Type(accounts, u"l"_s);
+    EXPECT_EQ(accounts->lineEdit()->selectedText(), u"ee, Ann"_s);
+    Press(accounts, Qt::Key_Delete);
+    EXPECT_EQ(accounts->currentText(), u"l"_s);
+    Press(accounts, Qt::Key_Delete);
+    Type(accounts, u"e"_s);
+    EXPECT_EQ(accounts->currentText(), u"le"_s) << "nothing was deleted; the next key pays";
+    Type(accounts, u"e"_s);
+    EXPECT_EQ(accounts->currentText(), u"lee, Ann"_s);
+}
+
+TEST_F(CustomerScreen, PastedNameIsCompletedLikeATypedOne) {
+    OpenThree();
+    Click(screen, u"Command1(1)"_s);
+    QComboBox* accounts = Combo(u"cboAccounts"_s);
+    QApplication::clipboard()->setText(u"anv"_s);
+    QTest::keyClick(accounts, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(accounts->currentText(), u"anvil Works"_s);
+    EXPECT_EQ(accounts->lineEdit()->selectedText(), u"il Works"_s);
 }
 
 TEST_F(CustomerScreen, TypedNameIsChosenByLeavingTheList) {

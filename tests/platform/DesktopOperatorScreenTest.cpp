@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -352,4 +353,56 @@ TEST(InputTest, CancelAndEscapeGiveNothing) {
         QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Escape);
     });
     EXPECT_EQ(user.InputBox(u"Which one?"_s, {}, u"Van 2"_s), std::nullopt);
+}
+
+/// How a long work tells its progress.
+class ProgressTest : public testing::Test {
+protected:
+    static QProgressDialog* Dialog() {
+        return qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+    }
+
+    DesktopOperator user;
+};
+
+TEST_F(ProgressTest, ShortWorkShowsNone) {
+    user.BeginProgress(u"Working..."_s, 10);
+    for (int step = 1; step <= 10; ++step)
+        EXPECT_TRUE(user.ShowProgress(step));
+    EXPECT_EQ(Dialog(), nullptr);
+    user.EndProgress();
+}
+
+TEST_F(ProgressTest, LongWorkShowsHowFarItHasGotUntilItEnds) {
+    user.BeginProgress(u"Working..."_s, 100);
+    user.ShowProgress(1);
+    QTest::qSleep(600);
+    EXPECT_TRUE(user.ShowProgress(20));
+    ASSERT_NE(Dialog(), nullptr);
+    EXPECT_EQ(Dialog()->labelText(), u"Working..."_s);
+    EXPECT_EQ(Dialog()->maximum(), 100);
+    EXPECT_EQ(Dialog()->value(), 20);
+    EXPECT_TRUE(user.ShowProgress(100));
+    EXPECT_NE(Dialog(), nullptr) << "the end of the work is told by itself";
+    user.EndProgress();
+    EXPECT_EQ(Dialog(), nullptr);
+}
+
+TEST_F(ProgressTest, CancelStopsTheWork) {
+    for (const bool isByKey : {false, true}) {
+        user.BeginProgress(u"Working..."_s, 100);
+        user.ShowProgress(1);
+        QTest::qSleep(600);
+        EXPECT_TRUE(user.ShowProgress(20));
+        ASSERT_NE(Dialog(), nullptr);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(Dialog()));
+        auto* cancel = Dialog()->findChild<QPushButton*>();
+        EXPECT_EQ(cancel->text(), u"Cancel"_s);
+        if (isByKey)
+            QTest::keyClick(Dialog(), Qt::Key_Escape);
+        else
+            QTest::mouseClick(cancel, Qt::LeftButton);
+        EXPECT_FALSE(user.ShowProgress(21));
+        user.EndProgress();
+    }
 }
