@@ -11,6 +11,8 @@ Office::Office(const QString& dataFolder, const Machine& theMachine)
       nonInventoriedItems(disk),
       board(disk, slips, calendar, settings, machine.clock, machine.user),
       printer(machine.printer, settings, machine.user),
-      schedulePrinter(board, printer, settings, machine.user),
+      schedulePrinter(board, printer, settings, machine.user), tallyLocations(disk),
+      inventoryPrinter(disk, inventoriedItems, tallyLocations, printer, settings, machine.clock,
+                       machine.user),
       customerFiles(disk, machine.clock, machine.user),
       customers(disk, customerFiles, settings, machine.user, deliveryCustomer) {}

@@ -8,8 +8,10 @@
 #include "platform/PrinterSurface.h"
 #include "platform/WebBrowser.h"
 #include "products/InventoriedItems.h"
+#include "products/InventoryPrinter.h"
 #include "products/NonInventoriedItems.h"
 #include "products/SalesItemLists.h"
+#include "products/TallyLocations.h"
 #include "schedule/DeliverySchedulePrinter.h"
 #include "schedule/PrinterRoutines.h"
 #include "schedule/ScheduleBoard.h"
@@ -60,6 +62,8 @@ public:
     ScheduleBoard board;
     PrinterRoutines printer;
     DeliverySchedulePrinter schedulePrinter;
+    TallyLocations tallyLocations;
+    InventoryPrinter inventoryPrinter;
     CustomerFiles customerFiles;
     DeliveryCustomer deliveryCustomer;
     CustomerSelection customers;
