@@ -56,7 +56,8 @@ void InventoriedItems::SelectRecord(const QString& recordNumber, int column) {
 
 void InventoriedItems::Load() {
     Categories.Clear();
-    if (disk.FileExists(itemsFile))
+    enabled.printReport = disk.FileExists(itemsFile);
+    if (enabled.printReport)
         LoadSalesItems();
     ApplySortChoice = false;
     enabled.entry = false;

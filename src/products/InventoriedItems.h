@@ -63,6 +63,8 @@ public:
         bool addNew = true;
         bool modify = false;
         bool deleteItem = false;
+        /// Whether there was a file of items when the screen was loaded, whatever came of it since.
+        bool printReport = true;
         bool entry = false;
         bool grid = true;
     } enabled;

@@ -6,6 +6,7 @@
 #include "platform/Form.h"
 #include "platform/Grid.h"
 #include "platform/Theme.h"
+#include "products/TallyFrame.h"
 #include "startup/Office.h"
 #include "startup/Screens.h"
 
@@ -34,10 +35,7 @@ constexpr double wideDescriptionWidth = 22;
 constexpr int categoryCharacters = 18;
 constexpr int longestDescription = 50;
 constexpr int longestCategory = 20;
-constexpr int locations = 5;
 constexpr ushort enterKey = 13;
-
-const QString notInThisVersion = u"Not part of this version yet"_s;
 
 enum FormColumn { LeftLabel, LeftField, RightLabel, RightField };
 
@@ -93,12 +91,15 @@ frmServices::frmServices(Office& theOffice, Screens& allScreens)
     frames->setSpacing(cardGap);
     frames->addWidget(MakeInventoriedFrame(), 1);
     frames->addWidget(MakeNonInventoriedFrame(), 1);
-    frames->addWidget(MakeTallyFrame());
+    fraTallySheets = new TallyFrame(office.tallyLocations);
+    frames->addWidget(fraTallySheets);
     MakeFoot();
     SetKeyOrder();
 
+    office.tallyLocations.Load();
     items.Load();
     nonItems.Load();
+    fraTallySheets->ShowLocations();
     ShowEntries();
     EnableControls();
     ShowLoadedGrids();
@@ -150,13 +151,10 @@ void frmServices::MakeFoot() {
          MakeButton(ClearItemNon, u"Clear Item"_s),
          MakeButton(CancelNon, u"Cancel Add New or Modify"_s),
          MakeButton(SaveItemNon, u"Save Item"_s)});
-    footTallySheets =
-        MakeFootGroup({MakeButton(HideTally, u"Cancel / Hide"_s),
-                       MakeButton(ClearLocations, u"Clear Locations"_s),
-                       MakeButton(SaveLocations, u"Save Locations to File"_s, notInThisVersion),
-                       MakeButton(PrintTally, u"Print Tally Sheets"_s, notInThisVersion)});
-    cmdServices[SaveLocations]->setEnabled(false);
-    cmdServices[PrintTally]->setEnabled(false);
+    footTallySheets = MakeFootGroup({MakeButton(HideTally, u"Cancel / Hide"_s),
+                                     MakeButton(ClearLocations, u"Clear Locations"_s),
+                                     MakeButton(SaveLocations, u"Save Locations to File"_s),
+                                     MakeButton(PrintTally, u"Print Tally Sheets"_s)});
 }
 
 QWidget* frmServices::MakeInventoriedFrame() {
@@ -164,9 +162,8 @@ QWidget* frmServices::MakeInventoriedFrame() {
     auto* head = new QHBoxLayout;
     head->addWidget(fraInventoried->Heading());
     head->addStretch(1);
-    head->addWidget(MakeButton(PrintReport, u"&Print Inventory Report"_s, notInThisVersion));
+    head->addWidget(MakeButton(PrintReport, u"&Print Inventory Report"_s));
     head->addWidget(MakeButton(ShowTally, u"Print Inventory Tally Sheets"_s));
-    cmdServices[PrintReport]->setEnabled(false);
     fraInventoried->Rows()->addLayout(head);
     fraInventoried->Rows()->addWidget(MakeItemGrid(), 1);
     fraInventoried->Rows()->addLayout(MakeGridChoices());
@@ -363,35 +360,6 @@ QWidget* frmServices::MakeNonItemForm() {
     return form;
 }
 
-QWidget* frmServices::MakeTallyFrame() {
-    fraTallySheets = Named(new Card(u"Inventory Tally Sheets"_s), u"fraTallySheets"_s);
-    auto* words = SoftLabel(
-        u"Enter the name of up to five locations where Inventory is located. Tally Sheets will be "
-        "printed with these locations as headings. These can be anything; a warehouse, storage "
-        "bins or work vehicles. You can create additional Tally Sheets by Clearing the Locations "
-        "and re-entering new locations and printing again."_s);
-    words->setWordWrap(true);
-    fraTallySheets->Rows()->addWidget(words);
-    auto* rows = new QGridLayout;
-    rows->setHorizontalSpacing(formRowGap);
-    rows->setVerticalSpacing(formRowGap);
-    constexpr int columnPairs = 2;
-    for (int i = 0; i < locations; ++i) {
-        const QString caption = u"Search Location #%1"_s.arg(i + 1);
-        auto* field = Named(new EntryField, Indexed(u"txtTally"_s, i));
-        field->setAccessibleName(caption);
-        field->setFixedWidth(Em(descriptionWidth));
-        txtTally.push_back(field);
-        const int row = i / columnPairs;
-        const bool isLeft = i % columnPairs == 0;
-        AddLabel(rows, row, isLeft ? LeftLabel : RightLabel, field, caption);
-        rows->addWidget(field, row, isLeft ? LeftField : RightField);
-    }
-    rows->setColumnStretch(RightField + 1, 1);
-    fraTallySheets->Rows()->addLayout(rows);
-    return fraTallySheets;
-}
-
 /// The keys go down the prices, then down the stock.
 void frmServices::SetKeyOrder() {
     auto* discountQty = findChild<QWidget*>(u"txtDiscountQty"_s);
@@ -456,6 +424,10 @@ void frmServices::EnableControls() {
     cmdServices[Modify]->setEnabled(items.enabled.modify);
     cmdServices[DeleteItem]->setEnabled(items.enabled.deleteItem);
     cmdServices[SaveItem]->setEnabled(items.enabled.entry);
+    cmdServices[PrintReport]->setEnabled(items.enabled.printReport);
+    cmdServices[PrintReport]->setToolTip(
+        items.enabled.printReport ? QString()
+                                  : u"There were no items yet when this screen was opened"_s);
     for (QWidget* field : {txtDescription, sellPrice, discountPrice})
         field->setEnabled(items.enabled.entry);
     fgItems->setEnabled(items.enabled.grid);
@@ -507,10 +479,12 @@ void frmServices::cmdServices_Click(Button index) {
     case ReturnToMenu:
         cmdServices_Menu();
         break;
+    case PrintReport:
+        PrintInventory(InventoryKind::Report);
+        break;
     case ShowTally:
     case HideTally:
     case ClearLocations:
-    case PrintReport:
     case PrintTally:
     case SaveLocations:
         RunTally(index);
@@ -613,20 +587,32 @@ ItemFocus frmServices::RunNon(Button index) {
     return ItemFocus::Stays;
 }
 
+void frmServices::PrintInventory(InventoryKind kind) {
+    fraTallySheets->Read();
+    office.inventoryPrinter.PrintInventory(kind);
+}
+
 void frmServices::RunTally(Button index) {
     switch (index) {
     case ShowTally:
         // The tally sheets take the place of the entry form and of its actions.
         Exchange({itemForm, footInventoried}, {fraTallySheets, footTallySheets});
-        txtTally[0]->setFocus();
+        fraTallySheets->GoToFirst();
         break;
     case HideTally:
         Exchange({fraTallySheets, footTallySheets}, {itemForm, footInventoried});
         cmdServices[ShowTally]->setFocus();
         break;
+    case PrintTally:
+        PrintInventory(InventoryKind::TallySheet);
+        break;
     case ClearLocations:
-        for (EntryField* field : txtTally)
-            field->clear();
+        office.tallyLocations.Clear();
+        fraTallySheets->ShowLocations();
+        break;
+    case SaveLocations:
+        fraTallySheets->Read();
+        office.tallyLocations.Save();
         break;
     default:
         break;

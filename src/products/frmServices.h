@@ -18,6 +18,8 @@ class QCheckBox;
 class QHBoxLayout;
 class QPushButton;
 class Screens;
+class TallyFrame;
+enum class InventoryKind;
 
 /// Where the products are kept: one frame for the priced items with their stock, one for the items
 /// without a price, shown one at a time.
@@ -73,7 +75,6 @@ private:
     QWidget* MakeNonInventoriedFrame();
     Grid* MakeNonItemGrid();
     QWidget* MakeNonItemForm();
-    QWidget* MakeTallyFrame();
     void SetKeyOrder();
     EntryBox* MakeCategoryBox();
     EntryField* MakeField(std::vector<BoundField>& fields, const QString& name,
@@ -98,6 +99,7 @@ private:
     ItemFocus Run(Button index);
     void RunNonInventoried(Button index);
     ItemFocus RunNon(Button index);
+    void PrintInventory(InventoryKind kind);
     void RunTally(Button index);
     void cmdServices_Menu();
     void fgItems_Click(int row);
@@ -117,7 +119,7 @@ private:
 
     Card* fraInventoried = nullptr;
     Card* fraUnInventoried = nullptr;
-    Card* fraTallySheets = nullptr;
+    TallyFrame* fraTallySheets = nullptr;
     QWidget* itemForm = nullptr;
     QWidget* footInventoried = nullptr;
     QWidget* footUnInventoried = nullptr;
@@ -134,6 +136,5 @@ private:
     EntryField* txtCost = nullptr;
     EntryField* sellPrice = nullptr;
     EntryField* discountPrice = nullptr;
-    std::vector<EntryField*> txtTally;
     std::map<Button, QPushButton*> cmdServices;
 };

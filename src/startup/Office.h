@@ -10,8 +10,10 @@
 #include "platform/PrinterSurface.h"
 #include "platform/WebBrowser.h"
 #include "products/InventoriedItems.h"
+#include "products/InventoryPrinter.h"
 #include "products/NonInventoriedItems.h"
 #include "products/SalesItemLists.h"
+#include "products/TallyLocations.h"
 #include "reports/InvoiceReport.h"
 #include "reports/ItemSalesReport.h"
 #include "reports/ReportPrinter.h"
@@ -83,6 +85,8 @@ public:
     BoardPrinting boardPrinting;
     WeeklySchedule weekly;
     WeeklySchedulePrinter weeklyPrinter;
+    TallyLocations tallyLocations;
+    InventoryPrinter inventoryPrinter;
     CustomerFiles customerFiles;
     DeliveryCustomer deliveryCustomer;
     CustomerSelection customers;

@@ -268,6 +268,15 @@ void RewriteFile(BasicDiskRoutines& disk, const QString& name, const QList<Recor
     WriteRecordLines(disk, name, lines);
 }
 
+void RewritePlainLines(BasicDiskRoutines& disk, const QString& name, const QStringList& texts) {
+    disk.DeleteWithBackup(name);
+    disk.OpenForOutput(name);
+    TextWriter writer(disk);
+    for (const QString& text : texts)
+        writer.Plain(text);
+    disk.CloseAllFiles();
+}
+
 QString BooleanWord(bool value) {
     return value ? u"True"_s : u"False"_s;
 }

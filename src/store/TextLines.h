@@ -98,5 +98,8 @@ void WriteRecordLines(BasicDiskRoutines& disk, const QString& name, const QList<
 /// The plain rewrite of a small file: the file and its copy in Backup go, then it is written anew.
 void RewriteFile(BasicDiskRoutines& disk, const QString& name, const QList<RecordLine>& lines);
 
+/// The same with a plain line for each text.
+void RewritePlainLines(BasicDiskRoutines& disk, const QString& name, const QStringList& texts);
+
 /// The words that stand for a Boolean in a plain line, in every language.
 QString BooleanWord(bool value);

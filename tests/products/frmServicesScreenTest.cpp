@@ -25,7 +25,6 @@ constexpr ScreenName products = ScreenName::frmServices;
 
 const QString itemsFile = u"NXInventoriedItems.txt"_s;
 const QString nonItemsFile = u"NonInventoriedItems.txt"_s;
-const QString notInThisVersion = u"Not part of this version yet"_s;
 
 } // namespace
 
@@ -175,18 +174,10 @@ TEST_F(ServicesScreen, FirstShowingIsIdleOverThePricedItems) {
         EXPECT_FALSE(Field(name)->isEnabled()) << name.toStdString();
     for (const int index : {9, 10, 12, 13, 17})
         EXPECT_FALSE(Button(index)->isEnabled()) << index;
-    for (const int index : {0, 2, 3, 8, 11, 14, 15, 16, 18, 19, 24})
+    for (const int index : {0, 1, 2, 3, 4, 7, 8, 11, 14, 15, 16, 18, 19, 24})
         EXPECT_TRUE(Button(index)->isEnabled()) << index;
     EXPECT_EQ(Names(), QStringList{u"Gravel"_s});
     EXPECT_EQ(Category()->currentText(), QString());
-}
-
-TEST_F(ServicesScreen, WhatComesInALaterVersionIsClosedAndSaysSo) {
-    Open();
-    for (const int index : {1, 4, 7}) {
-        EXPECT_FALSE(Button(index)->isEnabled()) << index;
-        EXPECT_EQ(Button(index)->toolTip(), notInThisVersion) << index;
-    }
 }
 
 TEST_F(ServicesScreen, MenuShowsOneFrameAtATime) {
@@ -203,22 +194,6 @@ TEST_F(ServicesScreen, MenuShowsOneFrameAtATime) {
     EXPECT_FALSE(Part(u"fraUnInventoried"_s)->isVisible());
     EXPECT_TRUE(Button(13)->isVisible());
     EXPECT_TRUE(Field(u"txtDescription(1)"_s)->isVisible());
-}
-
-TEST_F(ServicesScreen, TallyFrameOpensClearsItsLocationsAndCloses) {
-    Open();
-    ClickButton(3);
-    EXPECT_TRUE(Part(u"fraTallySheets"_s)->isVisible());
-    EXPECT_TRUE(Part(u"fraInventoried"_s)->isVisible());
-    EXPECT_EQ(Focus(), Field(u"txtTally(0)"_s));
-    for (int i = 0; i < 5; ++i)
-        Enter(u"txtTally(%1)"_s.arg(i), u"Shed"_s);
-    ClickButton(6);
-    for (int i = 0; i < 5; ++i)
-        EXPECT_EQ(Field(u"txtTally(%1)"_s.arg(i))->text(), QString());
-    ClickButton(5);
-    EXPECT_FALSE(Part(u"fraTallySheets"_s)->isVisible());
-    EXPECT_FALSE(folder.Has(u"Locations.txt"_s));
 }
 
 TEST_F(ServicesScreen, AddNewOpensTheEntryAndGoesToTheDescription) {

@@ -4,6 +4,7 @@
 #include "platform/RuntimeFailure.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -45,7 +46,8 @@ public:
     std::vector<Orientation> Orientations;
     std::vector<bool> Colors;
     int Jobs = 0;
-    /// Where each job that ended went.
+    /// What each job that ended was called, and where it went.
+    std::vector<QString> JobNames;
     std::vector<PrintDestination> Destinations;
     int AbandonedJobs = 0;
     /// The call of Print (counted from 1) that fails, as a printer that dies in mid-job.
@@ -62,6 +64,8 @@ public:
 
     /// The first text of that wording; fails the test when there is none.
     const Text& Find(const QString& text) const;
+    /// What was drawn, a text each: "page: x,y size text", with "b" behind a bold size.
+    QStringList DrawnTexts() const;
 
     double PageWidth() const override { return Width; }
     double PageHeight() const override { return Height; }
