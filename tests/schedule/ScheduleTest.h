@@ -27,18 +27,7 @@ protected:
         return cells;
     }
 
-    /// What the printer drew, a text each: "page: x,y size text", with "b" behind a bold size.
-    QStringList DrawnTexts() const {
-        QStringList drawn;
-        for (const auto& text : printer.Texts)
-            drawn += QStringLiteral("%1: %2,%3 %4%5 %6")
-                         .arg(text.page)
-                         .arg(text.x)
-                         .arg(text.y)
-                         .arg(text.fontSize)
-                         .arg(text.bold ? QStringLiteral("b") : QString(), text.text);
-        return drawn;
-    }
+    QStringList DrawnTexts() const { return printer.DrawnTexts(); }
 
     /// The lines drawn: "page: x,y - x,y colour", the colour in hexadecimal.
     QStringList DrawnLines() const {

@@ -15,6 +15,17 @@ const RecordingPrinter::Text& RecordingPrinter::Find(const QString& text) const 
     return nothing;
 }
 
+QStringList RecordingPrinter::DrawnTexts() const {
+    QStringList drawn;
+    for (const Text& text : Texts)
+        drawn += u"%1: %2,%3 %4%5 %6"_s.arg(text.page)
+                     .arg(text.x)
+                     .arg(text.y)
+                     .arg(text.fontSize)
+                     .arg(text.bold ? u"b"_s : QString(), text.text);
+    return drawn;
+}
+
 void RecordingPrinter::SetPage(Orientation orientation, bool inColor) {
     Orientations.push_back(orientation);
     Colors.push_back(inColor);

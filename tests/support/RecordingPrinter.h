@@ -4,6 +4,7 @@
 #include "platform/RuntimeFailure.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -60,6 +61,8 @@ public:
 
     /// The first text of that wording; fails the test when there is none.
     const Text& Find(const QString& text) const;
+    /// What was drawn, a text each: "page: x,y size text", with "b" behind a bold size.
+    QStringList DrawnTexts() const;
 
     void SetPage(Orientation orientation, bool inColor) override;
     double PageWidth() const override { return Width; }
