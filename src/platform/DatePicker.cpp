@@ -79,6 +79,8 @@ void DatePicker::OpenCalendar() {
     popup->setProperty("card", true);
     auto* calendar = new MonthView;
     calendar->setObjectName(u"calendar"_s);
+    if (earliest.isValid())
+        calendar->setMinimumDate(earliest);
     calendar->SetDate(date);
     auto* rows = new QVBoxLayout(popup);
     rows->setContentsMargins(1, 1, 1, 1);

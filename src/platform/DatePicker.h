@@ -15,6 +15,11 @@ public:
     QDate Date() const { return date; }
     /// Shows a date without telling of it.
     void SetDate(QDate newDate);
+    /// The calendar offers no day before it. What is typed is for the screen to correct.
+    void SetEarliest(QDate earliestDate) { earliest = earliestDate; }
+    /// Takes what is typed, as leaving the field does: a button that is pressed by its key works on
+    /// what the field shows.
+    void TakeTyped();
 
 Q_SIGNALS:
     void Changed(QDate date);
@@ -24,9 +29,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void TakeTyped();
     void Enter(QDate newDate);
     void OpenCalendar();
 
     QDate date;
+    QDate earliest;
 };

@@ -99,6 +99,22 @@ void GridModel::SortAsText(int column) {
     Sort(column, [](const QString& one, const QString& other) { return one < other; });
 }
 
+void GridModel::SortAsNumbers(int column, CellNumber numberOf) {
+    CheckCell(0, column);
+    const Refill refill(*this);
+    // Reading a number takes longer than moving a row, so each is read once.
+    std::vector<std::pair<double, std::vector<QString>>> rows;
+    rows.reserve(size_t(DataRows()));
+    for (auto row = cells.begin() + 1; row != cells.end(); ++row) {
+        const double number = numberOf((*row)[size_t(column)]);
+        rows.emplace_back(number, std::move(*row));
+    }
+    std::stable_sort(rows.begin(), rows.end(),
+                     [](const auto& one, const auto& other) { return one.first < other.first; });
+    std::transform(rows.begin(), rows.end(), cells.begin() + 1,
+                   [](auto& row) { return std::move(row.second); });
+}
+
 void GridModel::AlignRight(int column) {
     alignments.at(size_t(column)) = Qt::AlignRight;
 }

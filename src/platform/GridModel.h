@@ -13,6 +13,7 @@ class GridModel : public QAbstractTableModel {
 
 public:
     using CellOrder = bool (*)(const QString& one, const QString& other);
+    using CellNumber = double (*)(QStringView text);
 
     explicit GridModel(const QStringList& headings, QObject* parent = nullptr);
 
@@ -49,6 +50,8 @@ public:
     void Sort(int column, CellOrder isBefore);
     /// Ascending, character by character, so that "10" comes before "9" and "Z" before "a".
     void SortAsText(int column);
+    /// Ascending by the number that each text stands for; equal rows keep their order.
+    void SortAsNumbers(int column, CellNumber numberOf);
 
     /// While it lives, changes reach the views as one: for filling a grid.
     class Refill {

@@ -229,7 +229,7 @@ PagePrinter::PagePrinter(DocumentOpener documentOpener) : openDocument(std::move
 
 PagePrinter::~PagePrinter() = default;
 
-void PagePrinter::SetPage(Orientation orientation, bool inColor) {
+void PagePrinter::SetPaper(Orientation orientation, bool inColor) {
     if (job && job->IsDrawnOn())
         return;
     job.reset();

@@ -21,8 +21,6 @@ public:
     PagePrinter(const PagePrinter&) = delete;
     PagePrinter& operator=(const PagePrinter&) = delete;
 
-    /// A job that has something drawn on it goes on as it is.
-    void SetPage(Orientation orientation, bool inColor) override;
     double PageWidth() const override;
     double PageHeight() const override;
     int PageNumber() const override { return page; }
@@ -42,6 +40,8 @@ public:
     void AbandonJob() override;
 
 protected:
+    /// A job that has something drawn on it goes on as it is.
+    void SetPaper(Orientation orientation, bool inColor) override;
     void DrawText(double x, double y, const QString& text) override;
 
 private:

@@ -1,5 +1,10 @@
 #include "platform/PrinterSurface.h"
 
+void PrinterSurface::SetPage(Orientation orientation, bool inColor) {
+    SetPaper(orientation, inColor);
+    CentringWidth.reset();
+}
+
 void PrinterSurface::PrintLine(const QString& text) {
     Print(text);
     CurrentX = 0;
@@ -19,6 +24,6 @@ void PrinterSurface::PrintEndingAt(double right, const QString& text) {
 }
 
 void PrinterSurface::PrintCentred(const QString& text) {
-    CurrentX = (PageWidth() - TextWidth(text)) / 2;
+    CurrentX = (CentringWidth.value_or(PageWidth()) - TextWidth(text)) / 2;
     PrintLine(text);
 }

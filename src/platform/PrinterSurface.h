@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
+
 enum class Orientation { Portrait, Landscape };
 
 /// A page to draw on, with a pen position, the way every printing routine of the program sees a
@@ -30,9 +32,13 @@ public:
     /// before anything of the job is measured or drawn.
     QString JobName;
 
+    /// The width that PrintCentred goes by: the paper's, until a routine that lays its pages out on
+    /// another width says so. SetPage takes it back to the paper's.
+    std::optional<double> CentringWidth;
+
     /// Letter paper the given way round; what is printed from here on is a new job unless one has
     /// been begun.
-    virtual void SetPage(Orientation orientation, bool inColor) = 0;
+    void SetPage(Orientation orientation, bool inColor);
     /// Of the paper, the way round it was set.
     virtual double PageWidth() const = 0;
     virtual double PageHeight() const = 0;
@@ -62,9 +68,10 @@ public:
     void Print(const QString& text);
     /// Prints so that the text ends at `right`; the pen stays behind the text.
     void PrintEndingAt(double right, const QString& text);
-    /// Prints in the middle of the page's width, on a line of its own.
+    /// Prints in the middle of the centring width, on a line of its own.
     void PrintCentred(const QString& text);
 
 protected:
+    virtual void SetPaper(Orientation orientation, bool inColor) = 0;
     virtual void DrawText(double x, double y, const QString& text) = 0;
 };

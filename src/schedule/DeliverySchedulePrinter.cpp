@@ -51,16 +51,6 @@ void DeliverySchedulePrinter::PrintDeliverySchedule() {
     surface.EndJob();
 }
 
-void DeliverySchedulePrinter::PrintAt(float x, const QString& text) {
-    printer.PositionAt(x, 0);
-    surface.Print(text);
-}
-
-void DeliverySchedulePrinter::PrintLineAt(float x, const QString& text) {
-    printer.PositionAt(x, 0);
-    surface.PrintLine(text);
-}
-
 void DeliverySchedulePrinter::PrintRule() {
     surface.Line(ruleStart, surface.CurrentY, ruleEnd, surface.CurrentY,
                  printer.CurrentPrintColor());
@@ -78,15 +68,15 @@ void DeliverySchedulePrinter::PrintScheduleHeading(const QString& title) {
     surface.PrintEndingAt(ruleEnd, ShortDateText(board.DTPicker1));
     surface.PrintLine();
     surface.PrintEndingAt(ruleEnd, board.lstVehicles);
-    PrintLineAt(leftColumn, business[0]);
+    printer.PrintLineAt(leftColumn, business[0]);
     surface.FontSize = bodySize;
-    PrintLineAt(leftColumn, business[1] + u"   "_s + business[2]);
-    PrintLineAt(leftColumn, business[3] + u", "_s + business[4] + u". "_s + business[5]);
-    PrintLineAt(leftColumn, u"Tel No "_s + business[6]);
+    printer.PrintLineAt(leftColumn, business[1] + u"   "_s + business[2]);
+    printer.PrintLineAt(leftColumn, business[3] + u", "_s + business[4] + u". "_s + business[5]);
+    printer.PrintLineAt(leftColumn, u"Tel No "_s + business[6]);
     surface.PrintLine();
-    PrintAt(leftColumn, u"SOLD TO"_s);
-    PrintAt(shipToColumn, u"SHIP TO"_s);
-    PrintLineAt(chargeHeading, u"DELIVERY CHARGE"_s);
+    printer.PrintAt(leftColumn, u"SOLD TO"_s);
+    printer.PrintAt(shipToColumn, u"SHIP TO"_s);
+    printer.PrintLineAt(chargeHeading, u"DELIVERY CHARGE"_s);
     PrintRule();
 }
 
@@ -107,8 +97,8 @@ void DeliverySchedulePrinter::PrintScheduleEntries() {
 void DeliverySchedulePrinter::PrintScheduleEntry(const QString& slipNo, const QString& chargeText) {
     board.LoadSlipPanel(slipNo);
     surface.FontBold = true;
-    PrintLineAt(leftColumn, board.fraSlip.lblTime);
-    PrintLineAt(leftColumn, board.fraSlip.lblAcctNo);
+    printer.PrintLineAt(leftColumn, board.fraSlip.lblTime);
+    printer.PrintLineAt(leftColumn, board.fraSlip.lblAcctNo);
     PrintAddresses(chargeText);
     NewSchedulePageIfNearBottom();
     PrintScheduleItemHeadings();
@@ -122,27 +112,27 @@ void DeliverySchedulePrinter::PrintScheduleEntry(const QString& slipNo, const QS
 void DeliverySchedulePrinter::PrintAddresses(const QString& chargeText) {
     const auto& soldTo = board.fraSlip.lblCustomer;
     const auto& shipTo = board.fraSlip.txtShipto;
-    PrintAt(leftColumn, soldTo[0]);
-    PrintAt(shipToColumn, shipTo[0]);
+    printer.PrintAt(leftColumn, soldTo[0]);
+    printer.PrintAt(shipToColumn, shipTo[0]);
     surface.PrintEndingAt(chargeEnd, chargeText);
     surface.PrintLine();
-    PrintAt(leftColumn, soldTo[1]);
-    PrintLineAt(shipToColumn, shipTo[1]);
+    printer.PrintAt(leftColumn, soldTo[1]);
+    printer.PrintLineAt(shipToColumn, shipTo[1]);
     if (!soldTo[2].isEmpty() || !shipTo[2].isEmpty()) {
-        PrintAt(leftColumn, soldTo[2]);
-        PrintLineAt(shipToColumn, shipTo[2]);
+        printer.PrintAt(leftColumn, soldTo[2]);
+        printer.PrintLineAt(shipToColumn, shipTo[2]);
     }
-    PrintAt(leftColumn, CityLine(soldTo));
-    PrintLineAt(shipToColumn, CityLine(shipTo));
+    printer.PrintAt(leftColumn, CityLine(soldTo));
+    printer.PrintLineAt(shipToColumn, CityLine(shipTo));
 }
 
 void DeliverySchedulePrinter::PrintScheduleItemHeadings() {
     surface.PrintLine();
     surface.FontBold = true;
-    PrintAt(leftColumn, u"UNITS"_s);
-    PrintAt(productColumn, u"PRODUCT"_s);
-    PrintAt(unitCostHeading, u"UNIT COST"_s);
-    PrintLineAt(extensionHeading, u"EXTENSION"_s);
+    printer.PrintAt(leftColumn, u"UNITS"_s);
+    printer.PrintAt(productColumn, u"PRODUCT"_s);
+    printer.PrintAt(unitCostHeading, u"UNIT COST"_s);
+    printer.PrintLineAt(extensionHeading, u"EXTENSION"_s);
     surface.FontBold = false;
 }
 
@@ -152,7 +142,7 @@ void DeliverySchedulePrinter::PrintItemLine(int row) {
         NewSchedulePage();
     const auto cell = [&](ItemColumn column) { return board.fgItems.Text(row, column); };
     surface.PrintEndingAt(unitsEnd, cell(UnitsColumn));
-    PrintAt(productColumn, cell(ProductColumn));
+    printer.PrintAt(productColumn, cell(ProductColumn));
     surface.PrintEndingAt(unitCostEnd, cell(UnitCostColumn));
     surface.PrintEndingAt(itemTotalEnd, cell(ItemTotalColumn));
     surface.PrintLine();

@@ -25,8 +25,6 @@ private:
     void PrintRule();
     void NewSchedulePage();
     void NewSchedulePageIfNearBottom();
-    void PrintAt(float x, const QString& text);
-    void PrintLineAt(float x, const QString& text);
 
     ScheduleBoard& board;
     PrinterRoutines& printer;

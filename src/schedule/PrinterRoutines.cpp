@@ -9,6 +9,7 @@ namespace {
 constexpr double twipsInInch = 1440;
 constexpr quint32 black = 0;
 constexpr quint32 blue = 0xff0000;
+constexpr double pageWidth = 12240;
 constexpr int wrapMargin = 20;
 
 } // namespace
@@ -18,6 +19,7 @@ PrinterRoutines::PrinterRoutines(PrinterSurface& printerSurface, LiveSettings& l
 
 void PrinterRoutines::PreparePrinter(Orientation orientation, bool inColor) {
     surface.SetPage(orientation, inColor);
+    surface.CentringWidth = pageWidth;
     surface.FontName = settings.DocumentFont;
     surface.ForeColor = black;
     SetPrintFont(0, false, false);

@@ -15,7 +15,8 @@ public:
     /// The colour last chosen, 0x00BBGGRR.
     quint32 CurrentPrintColor() const { return settings.CurrentPrintColor; }
 
-    /// Letter paper, the document font in black, no bold, no underline.
+    /// Letter paper, the document font in black, no bold, no underline. Titles are centred on 8.5
+    /// inches, also on landscape paper, whose columns stand as if it ended there.
     void PreparePrinter(Orientation orientation, bool inColor);
     /// Inches. A value of zero or less leaves its axis alone.
     void PositionAt(float x, float y);

@@ -15,11 +15,6 @@ namespace {
 
 constexpr ushort enterKey = 13;
 
-/// Puts a day in the order in which it is driven: 08:30am has the key 230am, which sorts as 230.
-QString TimeSortKey(const QString& time) {
-    return TimeSortRank(time.left(2)) + time.mid(3);
-}
-
 } // namespace
 
 QString SelectionMark() {
@@ -124,9 +119,7 @@ void ScheduleBoard::LoadScheduleGrid() {
     if (row > 1)
         fgSchedule.SetRows(row);
     fgSchedule.SetCurrent(fgSchedule.DataRows(), int(ScheduleColumn::TimeSortKey));
-    fgSchedule.Sort(int(ScheduleColumn::TimeSortKey), [](const QString& one, const QString& other) {
-        return LeadingNumber(one) < LeadingNumber(other);
-    });
+    fgSchedule.SortAsNumbers(int(ScheduleColumn::TimeSortKey), LeadingNumber);
 }
 
 bool ScheduleBoard::ToggleMark(int row) {

@@ -16,6 +16,8 @@ Office::Office(const QString& dataFolder, const Machine& theMachine)
       invoiceRun(board, invoicePrinter, machine.printer, invoicePosting, accountLedger, slips,
                  machine.clock, machine.user),
       boardPrinting(board, printer, schedulePrinter, invoiceRun, slips, settings, machine.user),
+      weekly(slips, settings, machine.clock, machine.user),
+      weeklyPrinter(weekly, printer, settings, machine.clock, machine.user),
       customerFiles(disk, machine.clock, machine.user),
       customers(disk, customerFiles, settings, machine.user, deliveryCustomer),
       reportPrinter(printer, settings, machine.clock),

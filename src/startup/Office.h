@@ -21,6 +21,8 @@
 #include "schedule/NXPrint.h"
 #include "schedule/PrinterRoutines.h"
 #include "schedule/ScheduleBoard.h"
+#include "schedule/WeeklySchedule.h"
+#include "schedule/WeeklySchedulePrinter.h"
 #include "setup/CommonDialog.h"
 #include "setup/CompanyLogo.h"
 #include "setup/LiveSettings.h"
@@ -73,6 +75,8 @@ public:
     AccountLedger accountLedger;
     InvoiceRun invoiceRun;
     BoardPrinting boardPrinting;
+    WeeklySchedule weekly;
+    WeeklySchedulePrinter weeklyPrinter;
     CustomerFiles customerFiles;
     DeliveryCustomer deliveryCustomer;
     CustomerSelection customers;

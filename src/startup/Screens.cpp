@@ -6,6 +6,7 @@
 #include "reports/frmSalesReport.h"
 #include "reports/frmTaxForm.h"
 #include "schedule/frmPrintSchedules.h"
+#include "schedule/frmWeekly.h"
 #include "setup/frmHolidays.h"
 #include "setup/frmSetup.h"
 #include "setup/frmSplash.h"
@@ -26,7 +27,6 @@ Screens::~Screens() {
 
 bool Screens::IsBuilt(ScreenName name) {
     switch (name) {
-    case ScreenName::frmWeekly:
     case ScreenName::frmDelivery:
         return false;
     default:
@@ -44,6 +44,8 @@ std::unique_ptr<Screen> Screens::Make(ScreenName name) {
         return std::make_unique<frmSetup>(office, *this);
     case ScreenName::frmPrintSchedules:
         return std::make_unique<frmPrintSchedules>(office, *this);
+    case ScreenName::frmWeekly:
+        return std::make_unique<frmWeekly>(office, *this);
     case ScreenName::frmHolidays:
         return std::make_unique<frmHolidays>(office, *this);
     case ScreenName::frmVehicle:

@@ -30,3 +30,7 @@ QString TimeSortRank(const QString& hour) {
     const qsizetype place = Hours().indexOf(hour);
     return place < 0 ? QString() : QString::number(place + 1);
 }
+
+QString TimeSortKey(const QString& time) {
+    return TimeSortRank(time.left(2)) + time.mid(3);
+}

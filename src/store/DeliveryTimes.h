@@ -15,3 +15,6 @@ public:
 
 /// The place of an hour ("07" to "06") in the delivery day, "1" to "11"; empty for any other text.
 QString TimeSortRank(const QString& hour);
+
+/// Puts a day in the order in which it is driven: 08:30am has the key 230am, which sorts as 230.
+QString TimeSortKey(const QString& time);

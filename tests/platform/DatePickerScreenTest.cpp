@@ -72,6 +72,31 @@ TEST_F(DatePickerTest, UpAndDownStepByADay) {
     EXPECT_EQ(told, (QList<QDate>{{2026, 11, 21}, {2026, 11, 20}, {2026, 11, 19}}));
 }
 
+TEST_F(DatePickerTest, TextTakenIsToldAsIfTheFieldWereLeft) {
+    picker.selectAll();
+    QTest::keyClicks(&picker, u"12/31/2026"_s);
+    EXPECT_TRUE(told.isEmpty());
+    picker.TakeTyped();
+    EXPECT_EQ(told, QList<QDate>{QDate(2026, 12, 31)});
+    picker.TakeTyped();
+    EXPECT_EQ(told.size(), 1);
+}
+
+TEST_F(DatePickerTest, CalendarOffersNoDayBeforeTheEarliest) {
+    picker.SetEarliest({2026, 11, 18});
+    QTest::keyClick(&picker, Qt::Key_F4);
+    const auto* calendar = picker.findChild<QCalendarWidget*>(u"calendar"_s);
+    ASSERT_NE(calendar, nullptr);
+    EXPECT_EQ(calendar->minimumDate(), QDate(2026, 11, 18));
+    EXPECT_EQ(calendar->selectedDate(), QDate(2026, 11, 20));
+}
+
+TEST_F(DatePickerTest, DateTypedBeforeTheEarliestIsToldForTheScreenToCorrect) {
+    picker.SetEarliest({2026, 11, 18});
+    Type(u"11/17/2026"_s);
+    EXPECT_EQ(told, QList<QDate>{QDate(2026, 11, 17)});
+}
+
 TEST_F(DatePickerTest, DayPickedFromTheCalendarIsTold) {
     QTest::keyClick(&picker, Qt::Key_F4);
     auto* calendar = picker.findChild<QCalendarWidget*>(u"calendar"_s);

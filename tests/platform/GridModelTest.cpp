@@ -58,6 +58,26 @@ TEST(GridModel, SortAsTextComparesCharacterByCharacter) {
         EXPECT_EQ(grid.Text(row, 0), sorted[row - 1]);
 }
 
+TEST(GridModel, SortAsNumbersLooksAtTheNumbersAndKeepsEqualRowsInTheirOrder) {
+    GridModel grid({u"Key"_s, u"Name"_s});
+    const std::pair<QString, QString> rows[] = {{u"10"_s, u"ten"_s},
+                                                {u"9"_s, u"nine"_s},
+                                                {u"x"_s, u"none"_s},
+                                                {u"9"_s, u"other nine"_s},
+                                                {u""_s, u"empty"_s}};
+    grid.SetRows(6);
+    int row = 0;
+    for (const auto& [key, name] : rows) {
+        grid.SetText(++row, 0, key);
+        grid.SetText(row, 1, name);
+    }
+    grid.SortAsNumbers(0, [](QStringView text) { return text.toDouble(); });
+    const QStringList sorted = {u"none"_s, u"empty"_s, u"nine"_s, u"other nine"_s, u"ten"_s};
+    for (row = 1; row <= sorted.size(); ++row)
+        EXPECT_EQ(grid.Text(row, 1), sorted[row - 1]);
+    EXPECT_EQ(grid.Text(0, 0), u"Key"_s);
+}
+
 TEST(GridModel, FindRowGivesTheFirstDataRowOrNone) {
     GridModel grid({u"x"_s, u"B"_s});
     grid.SetRows(4);

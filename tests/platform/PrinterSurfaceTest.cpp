@@ -87,6 +87,15 @@ TEST_F(PrinterSurfaceTest, CentredTextStandsInTheMiddleOfThePageOnALineOfItsOwn)
     ExpectPenAt(0, 1240);
 }
 
+TEST_F(PrinterSurfaceTest, CentredTextGoesByTheCentringWidthUntilThePageIsSet) {
+    printer.CentringWidth = 10000;
+    printer.PrintCentred(u"abcd"_s);
+    ExpectDrawn(4800, 1000, u"abcd"_s);
+    printer.SetPage(Orientation::Portrait, true);
+    printer.PrintCentred(u"efgh"_s);
+    EXPECT_EQ(printer.Find(u"efgh"_s).x, 5920);
+}
+
 TEST_F(PrinterSurfaceTest, TextWiderThanThePageRunsOffBothItsEdgesWhenCentred) {
     printer.PrintCentred(QString(124, u'w'));
     ExpectDrawn(-80, 1000, QString(124, u'w'));

@@ -41,6 +41,54 @@ TEST_F(PrinterRoutinesTest, PreparingSetsTheDocumentFontInBlackAndLeavesItsSize)
     EXPECT_EQ(printer.ForeColor, 0U);
 }
 
+// At size 10 a character is 100 twips wide.
+
+TEST_F(PrinterRoutinesTest, PreparedLandscapePageIsCentredOnTheWidthOfAnUprightOne) {
+    printer.Width = 15840;
+    printer.Height = 12240;
+    routines.PreparePrinter(Orientation::Landscape, false);
+    printer.PrintCentred(u"abcd"_s);
+    EXPECT_EQ(printer.Find(u"abcd"_s).x, 5920);
+    EXPECT_EQ(printer.PageWidth(), 15840);
+    EXPECT_EQ(printer.PageHeight(), 12240);
+}
+
+TEST_F(PrinterRoutinesTest, PreparedUprightPageIsCentredOnThePaper) {
+    routines.PreparePrinter(Orientation::Portrait, false);
+    printer.PrintCentred(u"abcd"_s);
+    EXPECT_EQ(printer.Find(u"abcd"_s).x, 5920);
+}
+
+TEST_F(PrinterRoutinesTest, PagesBehindThePreparedOneAreCentredAlike) {
+    printer.Width = 15840;
+    printer.Height = 12240;
+    routines.PreparePrinter(Orientation::Landscape, false);
+    printer.NewPage();
+    printer.PrintCentred(u"abcd"_s);
+    EXPECT_EQ(printer.Find(u"abcd"_s).x, 5920);
+}
+
+TEST_F(PrinterRoutinesTest, PageThatIsOnlySetIsCentredOnItsOwnWidthAlsoAfterAPreparedOne) {
+    printer.Width = 15840;
+    printer.Height = 12240;
+    routines.PreparePrinter(Orientation::Landscape, false);
+    printer.EndJob();
+    printer.SetPage(Orientation::Landscape, false);
+    printer.PrintCentred(u"abcd"_s);
+    EXPECT_EQ(printer.Find(u"abcd"_s).x, 7720);
+}
+
+TEST_F(PrinterRoutinesTest, TextAtAPlaceStaysOnThePensLine) {
+    printer.CurrentY = 1000;
+    routines.PrintAt(2.0F, u"abc"_s);
+    EXPECT_EQ(printer.CurrentX, 3180);
+    EXPECT_EQ(printer.CurrentY, 1000);
+    routines.PrintLineAt(5.0F, u"de"_s);
+    EXPECT_EQ(DrawnTexts(), (QStringList{u"1: 2880,1000 10 abc"_s, u"1: 7200,1000 10 de"_s}));
+    EXPECT_EQ(printer.CurrentX, 0);
+    EXPECT_EQ(printer.CurrentY, 1240);
+}
+
 TEST_F(PrinterRoutinesTest, PreparingLeavesTheColourLastChosen) {
     settings.ckColor = 1;
     routines.SetPrintColor(PrintColor::Text);

@@ -60,6 +60,15 @@ TEST(DeliveryTimesTest, SortRankIsTheHoursPlaceInTheDeliveryDay) {
     EXPECT_EQ(TimeSortRank(u"06"_s), u"11"_s);
 }
 
+TEST(DeliveryTimesTest, SortKeyIsTheRankAndTheTimeFromItsFourthCharacter) {
+    EXPECT_EQ(TimeSortKey(u"08:30am"_s), u"230am"_s);
+    EXPECT_EQ(TimeSortKey(u"07.15am"_s), u"115am"_s);
+    EXPECT_EQ(TimeSortKey(u"06:45pm"_s), u"1145pm"_s);
+    EXPECT_EQ(TimeSortKey(u"12:30pm"_s), u"30pm"_s);
+    EXPECT_EQ(TimeSortKey(u"07"_s), u"1"_s);
+    EXPECT_EQ(TimeSortKey({}), QString());
+}
+
 TEST(DeliveryTimesTest, SortRankOfAnyOtherTextIsEmpty) {
     for (const QString& hour : {u"12"_s, u""_s, u"7"_s, u"00"_s, u"07:"_s, u" 7"_s, u"ab"_s})
         EXPECT_EQ(TimeSortRank(hour), QString()) << hour.toStdString();

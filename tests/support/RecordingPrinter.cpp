@@ -26,7 +26,7 @@ QStringList RecordingPrinter::DrawnTexts() const {
     return drawn;
 }
 
-void RecordingPrinter::SetPage(Orientation orientation, bool inColor) {
+void RecordingPrinter::SetPaper(Orientation orientation, bool inColor) {
     Orientations.push_back(orientation);
     Colors.push_back(inColor);
 }

@@ -64,7 +64,6 @@ public:
     /// What was drawn, a text each: "page: x,y size text", with "b" behind a bold size.
     QStringList DrawnTexts() const;
 
-    void SetPage(Orientation orientation, bool inColor) override;
     double PageWidth() const override { return Width; }
     double PageHeight() const override { return Height; }
     int PageNumber() const override { return page; }
@@ -80,6 +79,7 @@ public:
     void AbandonJob() override;
 
 protected:
+    void SetPaper(Orientation orientation, bool inColor) override;
     void DrawText(double x, double y, const QString& text) override;
 
 private:
