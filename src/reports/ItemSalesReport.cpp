@@ -33,8 +33,8 @@ constexpr int titleSize = 14;
 constexpr int sectionSize = 12;
 constexpr int bodySize = 10;
 
-/// Lines above the first total.
-constexpr int totalHeadingLines = 3;
+/// The height of the headings above the totals, in lines of body size.
+constexpr int totalHeadingLines = 4;
 
 } // namespace
 
@@ -214,9 +214,9 @@ void ItemSalesReport::PrintTotals() {
     PrinterSurface& surface = page.Surface();
     const QString heading = u"Total Items Sold (This Date Range)"_s;
     surface.PrintLine();
-    printer.SetPrintFont(sectionSize, true, false);
     // Headings that no longer fit go on the next page rather than off the paper.
     page.MakeRoomFor(heading, totalHeadingLines);
+    printer.SetPrintFont(sectionSize, true, false);
     printer.PrintLineAt(leftX, heading);
     surface.PrintLine();
     printer.SetPrintFont(bodySize, true, false);

@@ -70,7 +70,7 @@ void RangeCard::ShowRange() {
 void RangeCard::FinishEntry() {
     for (DatePicker* picker : DTPicker1) {
         if (picker->hasFocus())
-            Q_EMIT picker->editingFinished();
+            picker->TakeTyped();
     }
 }
 
