@@ -584,13 +584,9 @@ void frmCustomer::cmdCustomer_Click(Button index) {
         return;
     constexpr qint16 maintenance = 2;
     constexpr qint16 newDelivery = 5;
-    if (office.MenuChoice == newDelivery && index == Select) {
+    if (office.MenuChoice == newDelivery && index == Select)
         screens.GoFrom(ScreenName::frmCustomer, ScreenName::frmDelivery);
-        // Without a screen for it the customer stays; a second save of a record that was not shown
-        // anew would put the defaults over its contract.
-        if (isVisible())
-            Run([this] { customers.ShowCustomer(); });
-    } else if (office.MenuChoice == maintenance || office.MenuChoice == newDelivery)
+    else if (office.MenuChoice == maintenance || office.MenuChoice == newDelivery)
         screens.GoFrom(ScreenName::frmCustomer, ScreenName::frmStartup);
     else
         screens.Hide(ScreenName::frmCustomer);

@@ -79,11 +79,15 @@ void DatePicker::OpenCalendar() {
     popup->setProperty("card", true);
     auto* calendar = new MonthView;
     calendar->setObjectName(u"calendar"_s);
+    if (least.isValid())
+        calendar->setMinimumDate(least);
     calendar->SetDate(date);
     auto* rows = new QVBoxLayout(popup);
     rows->setContentsMargins(1, 1, 1, 1);
     rows->addWidget(calendar);
+    connect(popup, &QObject::destroyed, this, &DatePicker::Dismissed);
     connect(calendar, &MonthView::DateClick, this, [this, popup](QDate picked) {
+        popup->disconnect(this);
         popup->close();
         Enter(picked);
     });

@@ -15,10 +15,15 @@ public:
     QDate Date() const { return date; }
     /// Shows a date without telling of it.
     void SetDate(QDate newDate);
+    /// The earliest date that the calendar offers. An earlier one that is typed is told of all the
+    /// same.
+    void SetLeastDate(QDate newLeast) { least = newLeast; }
 
 Q_SIGNALS:
     void Changed(QDate date);
     void Refused();
+    /// The calendar has been closed without a pick.
+    void Dismissed();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -29,4 +34,5 @@ private:
     void OpenCalendar();
 
     QDate date;
+    QDate least;
 };

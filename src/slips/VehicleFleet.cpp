@@ -52,17 +52,30 @@ void VehicleFleet::LoadCapacityUnits() {
     CapacityUnits.setStringList(units);
 }
 
-void VehicleFleet::LoadVehicles() {
-    ModifyIsEnabled = false;
-    disk.OpenRandom(vehiclesFile, sizeof(VehicleRecord));
+std::vector<VehicleRecord> VehicleFleet::ReadVehicles() {
     const qint16 count = disk.RecordCount(vehiclesFile, sizeof(VehicleRecord));
     CheckSize(count, u"Reading"_s);
+    std::vector<VehicleRecord> vehicles;
+    // Opening a file that is not there would create it, and an empty fleet would pass for one.
+    if (count == 0)
+        return vehicles;
+    disk.OpenRandom(vehiclesFile, sizeof(VehicleRecord));
+    for (int record = 1; record <= count; ++record)
+        vehicles.push_back(ReadRecord<VehicleRecord>(disk, disk.DiskFile, record));
+    disk.CloseAllFiles();
+    return vehicles;
+}
+
+void VehicleFleet::LoadVehicles() {
+    ModifyIsEnabled = false;
+    const std::vector<VehicleRecord> vehicles = ReadVehicles();
+    const int count = int(vehicles.size());
     QStringList names;
     QStringList units;
     const GridModel::Refill refill(fgItems);
     fgItems.SetRows(count + 1);
     for (int row = 1; row <= count; ++row) {
-        const auto vehicle = ReadRecord<VehicleRecord>(disk, disk.DiskFile, row);
+        const VehicleRecord& vehicle = vehicles[size_t(row) - 1];
         names += vehicle.Name.Trimmed();
         // A file that is cut leaves NUL characters in its last record, which are part of no unit.
         units += TrimBlanks(vehicle.Units.Trimmed().remove(QChar(u'\0')));
@@ -73,7 +86,6 @@ void VehicleFleet::LoadVehicles() {
         fgItems.SetText(row, ProductColumn, vehicle.Product.Trimmed());
     }
     AddCapacityUnits(units);
-    disk.CloseAllFiles();
     Names.setStringList(names);
     if (count > 0)
         fgItems.SetCurrent(1, NameColumn);

@@ -12,4 +12,8 @@ Office::Office(const QString& dataFolder, const Machine& theMachine)
       board(disk, slips, calendar, settings, machine.clock, machine.user),
       printer(machine.printer, settings), schedulePrinter(board, printer, settings, machine.user),
       customerFiles(disk, machine.clock, machine.user),
-      customers(disk, customerFiles, settings, machine.user, deliveryCustomer) {}
+      customers(disk, customerFiles, settings, machine.user, deliveryCustomer),
+      deliveryItems(deliveryForm, items, fleet, templates, settings, machine.user),
+      deliveryParts{slips,         deliveryItems,    templates, items,        fleet,
+                    deliveryTimes, deliveryCustomer, calendar,  settingsStore},
+      delivery(deliveryForm, deliveryParts, settings, machine.clock, machine.user) {}

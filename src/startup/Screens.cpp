@@ -6,6 +6,7 @@
 #include "setup/frmHolidays.h"
 #include "setup/frmSetup.h"
 #include "setup/frmSplash.h"
+#include "slips/frmDelivery.h"
 #include "slips/frmVehicle.h"
 #include "startup/Office.h"
 #include "startup/frmStartup.h"
@@ -24,7 +25,6 @@ Screens::~Screens() {
 bool Screens::IsBuilt(ScreenName name) {
     switch (name) {
     case ScreenName::frmWeekly:
-    case ScreenName::frmDelivery:
     case ScreenName::frmTaxForm:
     case ScreenName::frmSalesReport:
     case ScreenName::frmInvoiceReport:
@@ -50,6 +50,8 @@ std::unique_ptr<Screen> Screens::Make(ScreenName name) {
         return std::make_unique<frmVehicle>(office, *this);
     case ScreenName::frmServices:
         return std::make_unique<frmServices>(office, *this);
+    case ScreenName::frmDelivery:
+        return std::make_unique<frmDelivery>(office, *this);
     case ScreenName::frmCustomer:
         return std::make_unique<frmCustomer>(office, *this);
     default:
