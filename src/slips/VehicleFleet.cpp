@@ -53,13 +53,11 @@ void VehicleFleet::LoadCapacityUnits() {
 }
 
 std::vector<VehicleRecord> VehicleFleet::ReadVehicles() {
+    disk.OpenRandom(vehiclesFile, sizeof(VehicleRecord));
     const qint16 count = disk.RecordCount(vehiclesFile, sizeof(VehicleRecord));
     CheckSize(count, u"Reading"_s);
     std::vector<VehicleRecord> vehicles;
-    // Opening a file that is not there would create it, and an empty fleet would pass for one.
-    if (count == 0)
-        return vehicles;
-    disk.OpenRandom(vehiclesFile, sizeof(VehicleRecord));
+    vehicles.reserve(size_t(count));
     for (int record = 1; record <= count; ++record)
         vehicles.push_back(ReadRecord<VehicleRecord>(disk, disk.DiskFile, record));
     disk.CloseAllFiles();

@@ -58,7 +58,8 @@ public:
     /// Reads Vehicles.txt into the grid and the names, and closes the input fields; a vehicle that
     /// is being added stays in them. More than 255 vehicles are an overflow.
     void LoadVehicles();
-    /// The records of Vehicles.txt; none when there is no such file. More than 255 are an overflow.
+    /// The records of Vehicles.txt, which is created when it is missing. More than 255 are an
+    /// overflow.
     std::vector<VehicleRecord> ReadVehicles();
 
     /// The one list of vehicle names; every screen's vehicle list is a view on it. It is as of the
