@@ -599,13 +599,9 @@ void frmCustomer::cmdCustomer_Click(Button index) {
     Run([this, index, &hasLeft] { hasLeft = customers.Leave(index == Select); });
     if (!hasLeft)
         return;
-    if (office.MenuChoice == newDelivery && index == Select) {
+    if (office.MenuChoice == newDelivery && index == Select)
         screens.GoFrom(ScreenName::frmCustomer, ScreenName::frmDelivery);
-        // Without a screen for it the customer stays; a second save of a record that was not shown
-        // anew would put the defaults over its contract.
-        if (isVisible())
-            Run([this] { customers.ShowCustomer(); });
-    } else if (office.MenuChoice == maintenance || office.MenuChoice == newDelivery)
+    else if (office.MenuChoice == maintenance || office.MenuChoice == newDelivery)
         screens.GoFrom(ScreenName::frmCustomer, ScreenName::frmStartup);
     else
         screens.Hide(ScreenName::frmCustomer);

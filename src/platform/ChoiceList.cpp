@@ -1,9 +1,20 @@
 #include "platform/ChoiceList.h"
 
+#include "platform/EntryField.h"
+
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 ChoiceList::ChoiceList(QWidget* parent) : QListView(parent) {
     setEditTriggers(QAbstractItemView::NoEditTriggers);
+}
+
+void ChoiceList::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && property("enterStops").toBool())
+        MoveOnFrom(this);
+    else
+        QListView::keyPressEvent(event);
 }
 
 void ChoiceList::mousePressEvent(QMouseEvent* event) {

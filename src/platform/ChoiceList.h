@@ -3,7 +3,8 @@
 #include <QListView>
 
 /// A list to choose from, in which something stays chosen: a click beside the entries doesn't take
-/// the choice away.
+/// the choice away. With the property "enterStops" it is on the way of Enter through a form, and
+/// Enter goes on to the next field.
 class ChoiceList : public QListView {
     Q_OBJECT
 
@@ -11,6 +12,7 @@ public:
     explicit ChoiceList(QWidget* parent = nullptr);
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void showEvent(QShowEvent* event) override;
 };

@@ -85,7 +85,9 @@ void DatePicker::OpenCalendar() {
     auto* rows = new QVBoxLayout(popup);
     rows->setContentsMargins(1, 1, 1, 1);
     rows->addWidget(calendar);
+    connect(popup, &QObject::destroyed, this, &DatePicker::Dismissed);
     connect(calendar, &MonthView::DateClick, this, [this, popup](QDate picked) {
+        popup->disconnect(this);
         popup->close();
         Enter(picked);
     });

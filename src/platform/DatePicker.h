@@ -24,6 +24,8 @@ public:
 Q_SIGNALS:
     void Changed(QDate date);
     void Refused();
+    /// The calendar has been closed without a pick.
+    void Dismissed();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -66,6 +66,8 @@ bool WorksInField(const QKeyEvent& press) {
 
 /// Something to enter, or the main button.
 bool IsStop(const QWidget& control) {
+    if (control.property("enterStops").toBool())
+        return true;
     const auto* button = qobject_cast<const QAbstractButton*>(&control);
     const bool isEntry = qobject_cast<const QLineEdit*>(&control) ||
                          qobject_cast<const QComboBox*>(&control) ||

@@ -54,5 +54,6 @@ private:
 bool IsMovedByOperator(const QFocusEvent& event);
 
 /// Enter goes from a field to the next, past buttons, lists and whatever has the property
-/// "enterPasses", and ends on the main button.
+/// "enterPasses", and ends on the main button. A button or list with the property "enterStops" is
+/// on its way.
 void MoveOnFrom(QWidget* field);

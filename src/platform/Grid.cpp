@@ -51,8 +51,16 @@ void Grid::SetEmptyHint(const QString& text) {
     viewport()->update();
 }
 
-/// The last that is not hidden.
+void Grid::StretchColumn(int column) {
+    stretched = column;
+    horizontalHeader()->setStretchLastSection(false);
+    horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
+}
+
+/// The last that is not hidden, unless it has been set.
 int Grid::StretchedColumn() const {
+    if (stretched >= 0)
+        return stretched;
     int column = grid.Columns() - 1;
     while (column > 0 && isColumnHidden(column))
         --column;

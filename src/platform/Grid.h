@@ -17,6 +17,8 @@ public:
     /// Widths by the contents, the last visible column takes what is left. Once the user has set a
     /// width, all stay as they are.
     void FitColumns();
+    /// Another column than the last takes what is left.
+    void StretchColumn(int column);
 
 Q_SIGNALS:
     /// Rows count from 1; 0 is the heading.
@@ -39,4 +41,6 @@ private:
     GridModel& grid;
     QString emptyHint;
     bool isSizedByUser = false;
+    /// Below 0 for the last that is visible.
+    int stretched = -1;
 };

@@ -15,6 +15,7 @@ namespace {
 
 const QString deliveriesFolder = u"/TesselDelivery/Deliveries"_s;
 const QString temporaryHeader = u"/TesselDelivery/Deliveries/TempFile.txt"_s;
+const QString temporaryItems = u"/TesselDelivery/DeliveryItems/TempFile.txt"_s;
 const QString counterFile = u"/NQDeliveryNo.txt"_s;
 
 constexpr QStringView lineEnd = u"\r\n";
@@ -138,7 +139,10 @@ void DeliverySlipRoutines::ProcessPastSlips(const std::vector<QString>& names) {
 }
 
 void DeliverySlipRoutines::WriteSlipHeader(const SlipHeader& header) {
-    const QString name = HeaderFile(TrimBlanks(header.table[0]));
+    WriteHeaderFile(HeaderFile(TrimBlanks(header.table[0])), header);
+}
+
+void DeliverySlipRoutines::WriteHeaderFile(const QString& name, const SlipHeader& header) {
     disk.KillFile(name);
     disk.OpenForOutput(name);
     TextWriter writer(disk);
@@ -153,8 +157,14 @@ void DeliverySlipRoutines::WriteSlipHeader(const SlipHeader& header) {
 void DeliverySlipRoutines::WriteSlipItems(const GridModel& grid, const QString& slipNo,
                                           qint16 count, const QString& total) {
     const QString number = TrimBlanks(slipNo);
-    disk.KillFile(ItemFile(number));
-    disk.OpenForOutput(ItemFile(number));
+    WriteItemFile(ItemFile(number), grid, number, count, total);
+}
+
+void DeliverySlipRoutines::WriteItemFile(const QString& name, const GridModel& grid,
+                                         const QString& number, qint16 count,
+                                         const QString& total) {
+    disk.KillFile(name);
+    disk.OpenForOutput(name);
     TextWriter writer(disk);
     writer.Plain(number);
     writer.Plain(QString::number(count));
@@ -164,6 +174,26 @@ void DeliverySlipRoutines::WriteSlipItems(const GridModel& grid, const QString& 
     }
     writer.Quoted(total.isEmpty() ? ZeroCurrencyText() : total);
     disk.CloseAllFiles();
+}
+
+void DeliverySlipRoutines::StoreSlip(const SlipHeader& header, const GridModel& grid, qint16 count,
+                                     const QString& total) {
+    const QString number = TrimBlanks(header.table[0]);
+    try {
+        WriteHeaderFile(temporaryHeader, header);
+        WriteItemFile(temporaryItems, grid, number, count, total);
+        disk.KillFile(HeaderFile(number));
+        disk.KillFile(ItemFile(number));
+        disk.RenameDataFile(temporaryItems, ItemFile(number));
+        // The header comes last: the folder of headers is the list of slips, and an item file that
+        // belongs to none of them does no harm.
+        disk.RenameDataFile(temporaryHeader, HeaderFile(number));
+    } catch (const RuntimeFailure&) {
+        PassOver([&] { disk.CloseAllFiles(); });
+        PassOver([&] { disk.KillFile(temporaryHeader); });
+        PassOver([&] { disk.KillFile(temporaryItems); });
+        throw;
+    }
 }
 
 void DeliverySlipRoutines::RewriteSlipHeader(const QString& slipNo, bool keep,

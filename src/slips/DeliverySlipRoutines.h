@@ -95,6 +95,11 @@ public:
     /// unit price, line total. Closes all files first. An empty total counts as 0.
     void WriteSlipItems(const GridModel& grid, const QString& slipNo, qint16 count,
                         const QString& total);
+    /// Stores a slip: its header file and its item file, replacing the slip of that number. Both
+    /// are written aside and take their places once they are whole, so a failure leaves the slips
+    /// on disk as they were: half a header would stop every later start of the program.
+    void StoreSlip(const SlipHeader& header, const GridModel& grid, qint16 count,
+                   const QString& total);
     /// Changes lines of a slip in place: the date always; with `keep` false also the time and the
     /// fifth line. All else stays to the byte.
     void RewriteSlipHeader(const QString& slipNo, bool keep, const QString& newDate,
@@ -122,6 +127,9 @@ public:
     static QString ItemFile(const QString& slipNo);
 
 private:
+    void WriteHeaderFile(const QString& name, const SlipHeader& header);
+    void WriteItemFile(const QString& name, const GridModel& grid, const QString& number,
+                       qint16 count, const QString& total);
     void ReadHeaders(const std::vector<QString>& names);
     void ProcessPastSlips(const std::vector<QString>& names);
     void CopyHeaderAsOneTime(const QString& oldSlipNo, const QString& newSlipNo, int entry);

@@ -52,17 +52,28 @@ void VehicleFleet::LoadCapacityUnits() {
     CapacityUnits.setStringList(units);
 }
 
-void VehicleFleet::LoadVehicles() {
-    ModifyIsEnabled = false;
+std::vector<VehicleRecord> VehicleFleet::ReadVehicles() {
     disk.OpenRandom(vehiclesFile, sizeof(VehicleRecord));
     const qint16 count = disk.RecordCount(vehiclesFile, sizeof(VehicleRecord));
     CheckSize(count, u"Reading"_s);
+    std::vector<VehicleRecord> vehicles;
+    vehicles.reserve(size_t(count));
+    for (int record = 1; record <= count; ++record)
+        vehicles.push_back(ReadRecord<VehicleRecord>(disk, disk.DiskFile, record));
+    disk.CloseAllFiles();
+    return vehicles;
+}
+
+void VehicleFleet::LoadVehicles() {
+    ModifyIsEnabled = false;
+    const std::vector<VehicleRecord> vehicles = ReadVehicles();
+    const int count = int(vehicles.size());
     QStringList names;
     QStringList units;
     const GridModel::Refill refill(fgItems);
     fgItems.SetRows(count + 1);
     for (int row = 1; row <= count; ++row) {
-        const auto vehicle = ReadRecord<VehicleRecord>(disk, disk.DiskFile, row);
+        const VehicleRecord& vehicle = vehicles[size_t(row) - 1];
         names += vehicle.Name.Trimmed();
         // A file that is cut leaves NUL characters in its last record, which are part of no unit.
         units += TrimBlanks(vehicle.Units.Trimmed().remove(QChar(u'\0')));
@@ -73,7 +84,6 @@ void VehicleFleet::LoadVehicles() {
         fgItems.SetText(row, ProductColumn, vehicle.Product.Trimmed());
     }
     AddCapacityUnits(units);
-    disk.CloseAllFiles();
     Names.setStringList(names);
     if (count > 0)
         fgItems.SetCurrent(1, NameColumn);

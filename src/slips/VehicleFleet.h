@@ -9,6 +9,7 @@
 #include <QStringListModel>
 
 #include <cstddef>
+#include <vector>
 
 /// Record of Vehicles.txt.
 struct VehicleRecord {
@@ -57,6 +58,9 @@ public:
     /// Reads Vehicles.txt into the grid and the names, and closes the input fields; a vehicle that
     /// is being added stays in them. More than 255 vehicles are an overflow.
     void LoadVehicles();
+    /// The records of Vehicles.txt, which is created when it is missing. More than 255 are an
+    /// overflow.
+    std::vector<VehicleRecord> ReadVehicles();
 
     /// The one list of vehicle names; every screen's vehicle list is a view on it. It is as of the
     /// last LoadVehicles, so the name of the last vehicle stays when that is deleted.

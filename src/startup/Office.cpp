@@ -28,4 +28,8 @@ Office::Office(const QString& dataFolder, const Machine& theMachine)
       customerReport(disk, customerFiles, printer, settings, machine.clock, machine.user),
       reportPrinter(printer, settings, machine.clock),
       itemSales(disk, items.ProductNames, reportPrinter, settings, machine.clock, machine.user),
-      invoiceReport(disk, customerFiles, reportPrinter, settings, machine.clock, machine.user) {}
+      invoiceReport(disk, customerFiles, reportPrinter, settings, machine.clock, machine.user),
+      deliveryItems(deliveryForm, items, fleet, templates, settings, machine.user),
+      deliveryParts{slips,         deliveryItems,    templates, items,        fleet,
+                    deliveryTimes, deliveryCustomer, calendar,  settingsStore},
+      delivery(deliveryForm, deliveryParts, settings, machine.clock, machine.user) {}

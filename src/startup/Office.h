@@ -34,7 +34,10 @@
 #include "setup/PrintLook.h"
 #include "setup/SettingsStore.h"
 #include "setup/SetupRoutines.h"
+#include "slips/DeliveryCreation.h"
 #include "slips/DeliveryCustomer.h"
+#include "slips/DeliveryForm.h"
+#include "slips/DeliveryItems.h"
 #include "slips/DeliverySlipRoutines.h"
 #include "slips/DeliveryTemplates.h"
 #include "slips/VehicleFleet.h"
@@ -95,6 +98,10 @@ public:
     ReportPrinter reportPrinter;
     ItemSalesReport itemSales;
     InvoiceReport invoiceReport;
+    DeliveryForm deliveryForm;
+    DeliveryItems deliveryItems;
+    DeliveryParts deliveryParts;
+    DeliveryCreation delivery;
     /// The menu routine clicked last; what comes after selecting a customer depends on it.
     qint16 MenuChoice = 0;
 };

@@ -10,28 +10,18 @@
 #include "setup/frmHolidays.h"
 #include "setup/frmSetup.h"
 #include "setup/frmSplash.h"
+#include "slips/frmDelivery.h"
 #include "slips/frmVehicle.h"
 #include "startup/Office.h"
 #include "startup/frmStartup.h"
 
 #include <algorithm>
 
-using namespace Qt::StringLiterals;
-
 Screens::Screens(Office& theOffice) : office(theOffice) {}
 
 Screens::~Screens() {
     while (!loaded.empty())
         loaded.pop_back();
-}
-
-bool Screens::IsBuilt(ScreenName name) {
-    switch (name) {
-    case ScreenName::frmDelivery:
-        return false;
-    default:
-        return true;
-    }
 }
 
 std::unique_ptr<Screen> Screens::Make(ScreenName name) {
@@ -52,6 +42,8 @@ std::unique_ptr<Screen> Screens::Make(ScreenName name) {
         return std::make_unique<frmVehicle>(office, *this);
     case ScreenName::frmServices:
         return std::make_unique<frmServices>(office, *this);
+    case ScreenName::frmDelivery:
+        return std::make_unique<frmDelivery>(office, *this);
     case ScreenName::frmCustomer:
         return std::make_unique<frmCustomer>(office, *this);
     case ScreenName::frmTaxForm:
@@ -60,9 +52,8 @@ std::unique_ptr<Screen> Screens::Make(ScreenName name) {
         return std::make_unique<frmSalesReport>(office, *this);
     case ScreenName::frmInvoiceReport:
         return std::make_unique<frmInvoiceReport>(office, *this);
-    default:
-        return nullptr;
     }
+    return nullptr;
 }
 
 Screen* Screens::Find(ScreenName name) const {
@@ -72,7 +63,7 @@ Screen* Screens::Find(ScreenName name) const {
 }
 
 void Screens::Create(ScreenName name) {
-    if (!IsBuilt(name) || Find(name))
+    if (Find(name))
         return;
     loaded.push_back({name, Make(name)});
     connect(loaded.back().screen.get(), &Screen::ClosedByUser, this, &Screens::ExitRequested);
@@ -81,8 +72,6 @@ void Screens::Create(ScreenName name) {
 void Screens::Show(ScreenName name) {
     Create(name);
     Screen* screen = Find(name);
-    if (!screen)
-        return;
     screen->BringUp();
     screen->Activate();
 }
@@ -104,14 +93,6 @@ void Screens::Destroy(ScreenName name) {
 }
 
 void Screens::GoFrom(ScreenName from, ScreenName to) {
-    if (!IsBuilt(to)) {
-        TellNotBuilt();
-        return;
-    }
     Hide(from);
     Show(to);
-}
-
-void Screens::TellNotBuilt() {
-    office.machine.user.MsgBox(u"This routine is not part of this version yet."_s);
 }

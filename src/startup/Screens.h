@@ -32,14 +32,13 @@ public:
     explicit Screens(Office& theOffice);
     ~Screens() override;
 
-    /// Makes the screen without showing it. Nothing happens for one that this version lacks.
+    /// Makes the screen without showing it, unless it is there.
     void Create(ScreenName name);
     /// Brings a screen to the front and runs its activate work.
     void Show(ScreenName name);
     void Hide(ScreenName name);
     void Destroy(ScreenName name);
-    /// Hides one screen and shows the other. When this version lacks the other, the operator is
-    /// told so and stays where he is.
+    /// Hides one screen and shows the other.
     void GoFrom(ScreenName from, ScreenName to);
 
     /// The screen, or nothing when it has not been made.
@@ -50,9 +49,6 @@ Q_SIGNALS:
     void ExitRequested();
 
 private:
-    static bool IsBuilt(ScreenName name);
-    /// Tells the operator that a routine is not in this version.
-    void TellNotBuilt();
     struct Loaded {
         ScreenName name;
         std::unique_ptr<Screen> screen;

@@ -17,7 +17,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString later = u"Not part of this version yet"_s;
-const QString notBuilt = u"This routine is not part of this version yet."_s;
 
 } // namespace
 
@@ -575,14 +574,15 @@ TEST_F(CustomerScreen, SelectInMaintenanceLeadsToTheMenuAndHandsOver) {
     EXPECT_EQ(office.deliveryCustomer.Name, u"Corner Grocery"_s);
 }
 
-TEST_F(CustomerScreen, SelectForADeliveryLeadsToTheDeliveryScreenThatIsNotBuilt) {
+TEST_F(CustomerScreen, SelectForADeliveryLeadsToTheDeliveryScreen) {
     OpenThree(5);
     Click(screen, u"cmdNav(2)"_s);
-    user.ExpectMessage(notBuilt);
     Click(screen, u"cmdCustomer(1)"_s);
     EXPECT_EQ(office.deliveryCustomer.AccountNumber, u"1002"_s);
     EXPECT_EQ(office.deliveryCustomer.Name, u"Mr/Mrs Ann  Lee"_s);
-    EXPECT_TRUE(IsShown(screen));
+    EXPECT_FALSE(IsShown(screen));
+    EXPECT_TRUE(IsShown(ScreenName::frmDelivery));
+    EXPECT_EQ(Find<QLabel>(ScreenName::frmDelivery, u"lblAcctNo"_s)->text(), u"1002"_s);
 }
 
 TEST_F(CustomerScreen, AnyOtherMenuChoiceShowsNothing) {

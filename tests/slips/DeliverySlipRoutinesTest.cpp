@@ -358,6 +358,113 @@ TEST_F(DeliverySlipRoutinesTest, DiskFullWhileStoringFailsByName) {
               u"Writing TesselDelivery/DeliveryItems/20260014.txt failed: File too large."_s);
 }
 
+// Storing both files of a slip.
+
+TEST_F(DeliverySlipRoutinesTest, StoringWritesBothFilesAndLeavesNothingElse) {
+    AddItem(u"2"_s, u"Sand"_s, u"$5.00"_s, u"$10.00"_s);
+    QStringList names = folder.Everything();
+    slips.StoreSlip(CornerGrocery(), grid, 1, u"$10.00"_s);
+    names += {deliveries + u"20260014.txt"_s, deliveryItems + u"20260014.txt"_s};
+    names.sort();
+    EXPECT_EQ(folder.Everything(), names);
+    EXPECT_EQ(folder.Read(deliveries + u"20260014.txt"_s),
+              "20260014\r\n3/16/2026\r\n08:30am\r\nTrue\r\n0000001\r\nFlatbed Truck\r\n4471\r\n"
+              "Corner Grocery\r\nPrepared 3/9/2026\r\nBack door\r\n"
+              "\"Corner Grocery\"\r\n\"12 Mill Road\"\r\n\"\"\r\n\"Springfield\"\r\n\"IL\"\r\n"
+              "\"62704\"\r\n\"Caf\xe9 Gr\xfcn\"\r\n\"9 Elm Street\"\r\n\"Apt 4\"\r\n"
+              "\"Springfield\"\r\n\"IL\"\r\n\"62705\"\r\n");
+    EXPECT_EQ(folder.Read(deliveryItems + u"20260014.txt"_s),
+              "20260014\r\n1\r\n2\r\nSand\r\n$5.00\r\n$10.00\r\n\"$10.00\"\r\n");
+}
+
+TEST_F(DeliverySlipRoutinesTest, StoringReplacesTheSlipOfThatNumber) {
+    PutSlip("500", "3/12/2026", "True", "0000001");
+    folder.Write(deliveryItems + u"500.txt"_s, "500\r\n0\r\n\"$7.00\"\r\n");
+    SlipHeader header = CornerGrocery();
+    header[SlipLine::SlipNumber] = u" 500"_s;
+    slips.StoreSlip(header, grid, 0, u"$9.00"_s);
+    EXPECT_TRUE(folder.Read(deliveries + u"500.txt"_s).startsWith("500\r\n3/16/2026\r\n"));
+    EXPECT_EQ(folder.Read(deliveryItems + u"500.txt"_s), "500\r\n0\r\n\"$9.00\"\r\n");
+}
+
+TEST_F(DeliverySlipRoutinesTest, StoringAfterACrashTakesNothingOfWhatItLeft) {
+    folder.Write(deliveries + u"TempFile.txt"_s, "half");
+    folder.Write(deliveryItems + u"TempFile.txt"_s, "half");
+    slips.StoreSlip(CornerGrocery(), grid, 0, u"$9.00"_s);
+    EXPECT_FALSE(folder.Has(deliveries + u"TempFile.txt"_s));
+    EXPECT_FALSE(folder.Has(deliveryItems + u"TempFile.txt"_s));
+    EXPECT_EQ(folder.Read(deliveryItems + u"20260014.txt"_s), "20260014\r\n0\r\n\"$9.00\"\r\n");
+}
+
+TEST_F(DeliverySlipRoutinesTest, FullDiskLeavesEverySlipAsItWas) {
+    PutSlip("20260014", "3/12/2026");
+    folder.Write(deliveryItems + u"20260014.txt"_s, "20260014\r\n0\r\n\"$7.00\"\r\n");
+    for (int i = 0; i < 100; ++i)
+        AddItem(u"2"_s, u"Sand"_s, u"$5.00"_s, u"$10.00"_s);
+    const auto before = folder.Contents();
+    // In the header, and in the item file behind a whole header.
+    for (const unsigned room : {0U, 100U, 1000U}) {
+        const RuntimeFailure failure = FailureOf([&] {
+            const FullDisk disk(room);
+            slips.StoreSlip(CornerGrocery(), grid, 100, u"$10.00"_s);
+        });
+        EXPECT_EQ(failure.Kind(), FailureKind::DiskFull) << room;
+        EXPECT_EQ(folder.Contents(), before) << room;
+    }
+    slips.LoadSlips(false);
+    EXPECT_EQ(slips.SlipCount, 1);
+}
+
+TEST_F(DeliverySlipRoutinesTest, FullDiskLeavesNoHalfNewSlipForTheNextStart) {
+    AddItem(u"2"_s, u"Sand"_s, u"$5.00"_s, u"$10.00"_s);
+    const QStringList before = folder.Everything();
+    const RuntimeFailure failure = FailureOf([&] {
+        const FullDisk disk(50);
+        slips.StoreSlip(CornerGrocery(), grid, 1, u"$10.00"_s);
+    });
+    EXPECT_EQ(failure.Sentence(),
+              u"Writing TesselDelivery/Deliveries/TempFile.txt failed: File too large."_s);
+    EXPECT_EQ(folder.Everything(), before);
+    slips.LoadSlips(true);
+    EXPECT_EQ(slips.SlipCount, 0);
+}
+
+TEST_F(DeliverySlipRoutinesTest, StoringMoreLinesThanTheGridHasChangesNothing) {
+    PutSlip("20260014", "3/12/2026");
+    const auto before = folder.Contents();
+    EXPECT_EQ(FailureOf([&] { slips.StoreSlip(CornerGrocery(), grid, 5, u"$10.00"_s); }).Kind(),
+              FailureKind::Subscript);
+    EXPECT_EQ(folder.Contents(), before);
+}
+
+TEST_F(DeliverySlipRoutinesTest, NumberThatNamesNoFileChangesNothing) {
+    PutSlip("500", "3/12/2026");
+    folder.MakeFolder(deliveries + u"12"_s);
+    const QStringList before = folder.Everything();
+    for (const QString& number : {u"../x"_s, u"12/7"_s, u"no/folder"_s, QString(300, u'1')}) {
+        SlipHeader header = CornerGrocery();
+        header[SlipLine::SlipNumber] = number;
+        FailureOf([&] { slips.StoreSlip(header, grid, 0, u"$9.00"_s); });
+        EXPECT_EQ(folder.Everything(), before) << number.toStdString();
+    }
+}
+
+TEST_F(DeliverySlipRoutinesTest, UnwritableFolderOfEitherFileChangesNothing) {
+    PutSlip("20260014", "3/12/2026");
+    folder.Write(deliveryItems + u"20260014.txt"_s, "20260014\r\n0\r\n\"$7.00\"\r\n");
+    const auto before = folder.Contents();
+    DropRootRights(folder);
+    for (const QString& closed : {deliveries, deliveryItems}) {
+        const QByteArray path = folder.PathOf(closed).toUtf8();
+        ASSERT_EQ(::chmod(path.constData(), 0555), 0);
+        const RuntimeFailure failure =
+            FailureOf([&] { slips.StoreSlip(CornerGrocery(), grid, 0, u"$9.00"_s); });
+        ASSERT_EQ(::chmod(path.constData(), 0755), 0);
+        EXPECT_EQ(failure.Kind(), FailureKind::PermissionDenied);
+        EXPECT_EQ(folder.Contents(), before) << closed.toStdString();
+    }
+}
+
 // Loading the table.
 
 TEST_F(DeliverySlipRoutinesTest, EmptyFolderGivesCountZeroAndKeepsTheOldTexts) {

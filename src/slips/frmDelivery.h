@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform/Screen.h"
+#include "slips/DeliverySetupPanel.h"
+
+class ChoiceList;
+class DeliveryItemsPanel;
+class Office;
+class QPushButton;
+class Screens;
+
+/// Where a delivery slip is written: first its set-up, then its items, with the templates beside
+/// both.
+class frmDelivery : public Screen {
+    Q_OBJECT
+
+public:
+    frmDelivery(Office& theOffice, Screens& allScreens);
+
+    /// Starts a new slip.
+    void Activate() override;
+
+private:
+    QList<QAction*> MakeMenus();
+    QAction* AddMenu(const QString& name, const QString& caption,
+                     const std::function<void()>& rule);
+    void MakeFoot();
+    QWidget* MakeTemplates();
+    QPushButton* MakeTemplateButton(DeliveryTemplates::Button index, const QString& caption,
+                                    const std::function<void()>& rule);
+    QWidget* MakeFootGroup(std::initializer_list<QPushButton*> buttons);
+    QPushButton* MakeInvoiceButton(DeliverySetupPanel::Button index, const QString& caption,
+                                   const std::function<void()>& action);
+
+    void Run(const std::function<void()>& rule);
+    void Show();
+    void ShowTemplates();
+    void ShowWhere();
+    void MoveFocus();
+
+    void flstDeliveryTemplates_Click(int place);
+    void cmdStore_Click();
+    void cmdExit_Click();
+
+    Office& office;
+    Screens& screens;
+    DeliveryForm& form;
+    DeliveryCreation& creation;
+    /// While the screen shows what a rule has done, nothing that happens to a control is the
+    /// operator's doing.
+    bool isShowing = false;
+
+    DeliverySetupPanel* setup = nullptr;
+    DeliveryItemsPanel* items = nullptr;
+    QWidget* fraTemplates = nullptr;
+    ChoiceList* flstDeliveryTemplates = nullptr;
+    std::map<DeliverySetupPanel::Button, QPushButton*> cmdInvoice;
+    std::map<DeliveryTemplates::Button, QPushButton*> cmdTemplate;
+    QPushButton* cmdExit = nullptr;
+    QWidget* setupFoot = nullptr;
+    QWidget* itemsFoot = nullptr;
+};
