@@ -3,6 +3,7 @@
 #include "SampleTables.h"
 #include "customers/CustomerRecords.h"
 #include "platform/Clock.h"
+#include "platform/NoSerialPort.h"
 #include "platform/Operator.h"
 #include "platform/RuntimeFailure.h"
 #include "products/SalesItemLists.h"
@@ -138,7 +139,7 @@ class SampleBusiness {
 public:
     SampleBusiness(const QString& folder, QDate today)
         : clock(today), days(today), disk(folder), store(disk, settings, noPictures),
-          modem(disk, settings), setup(store, modem, settings, nobody),
+          modem(disk, settings, NoSerialPort::Only()), setup(store, modem, settings, nobody),
           calendar(disk, nobody, settings.WorkWeek), slips(disk, calendar, settings, clock, nobody),
           preparedText(u"Prepared "_s + ShortDateText(today)) {}
 

@@ -1,6 +1,7 @@
 #include "platform/DesktopBrowser.h"
 #include "platform/DesktopOperator.h"
 #include "platform/DesktopPictures.h"
+#include "platform/DesktopSerialPort.h"
 #include "platform/FolderLock.h"
 #include "platform/GuardedApplication.h"
 #include "platform/PagePrinter.h"
@@ -35,6 +36,7 @@ struct Run {
     DesktopOperator user;
     DesktopBrowser browser;
     DesktopPictures pictures;
+    DesktopSerialPort serialPort;
     PagePrinter printer{[this](const QString& path) { OpenDocument(path); }};
     std::unique_ptr<FolderLock> lock;
     std::unique_ptr<Office> office;
@@ -48,8 +50,9 @@ void Start(Run& run) {
         QCoreApplication::exit(EXIT_SUCCESS);
         return;
     }
-    run.office = std::make_unique<Office>(
-        dataFolder, Machine{run.clock, run.user, run.printer, run.browser, run.pictures});
+    run.office =
+        std::make_unique<Office>(dataFolder, Machine{run.clock, run.user, run.printer, run.browser,
+                                                     run.pictures, run.serialPort});
     run.screens = std::make_unique<Screens>(*run.office);
     QObject::connect(run.screens.get(), &Screens::ExitRequested, qApp,
                      [] { QCoreApplication::exit(EXIT_SUCCESS); });

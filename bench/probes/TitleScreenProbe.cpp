@@ -5,6 +5,7 @@
 #include "platform/DesktopBrowser.h"
 #include "platform/DesktopOperator.h"
 #include "platform/DesktopPictures.h"
+#include "platform/DesktopSerialPort.h"
 #include "platform/FolderLock.h"
 #include "platform/GuardedApplication.h"
 #include "platform/PagePrinter.h"
@@ -31,6 +32,7 @@ struct Run {
     DesktopOperator user;
     DesktopBrowser browser;
     DesktopPictures pictures;
+    DesktopSerialPort serialPort;
     PagePrinter printer{[](const QString&) {}};
     std::unique_ptr<FolderLock> lock;
     std::unique_ptr<Office> office;
@@ -42,8 +44,9 @@ void Start(Run& run) {
     run.lock = std::make_unique<FolderLock>(dataFolder);
     if (!run.lock->IsHeld())
         ::_exit(EXIT_FAILURE);
-    run.office = std::make_unique<Office>(
-        dataFolder, Machine{run.clock, run.user, run.printer, run.browser, run.pictures});
+    run.office =
+        std::make_unique<Office>(dataFolder, Machine{run.clock, run.user, run.printer, run.browser,
+                                                     run.pictures, run.serialPort});
     run.screens = std::make_unique<Screens>(*run.office);
     Main(*run.office, *run.screens);
 }

@@ -57,11 +57,6 @@ Form* MakeForm() {
     return form;
 }
 
-void PutOff(QWidget* control) {
-    control->setEnabled(false);
-    control->setToolTip(laterVersion);
-}
-
 void SetUp(EntryBox* combo, const QString& accessibleName) {
     combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo->setMaxVisibleItems(namesInPopup);
@@ -73,8 +68,8 @@ QToolButton* MakeDialButton() {
     const QSize size(Em(pictureSize), Em(pictureSize));
     dial->setIcon(LineIcon(u"phone"_s, Theme::Current().softText, size, dial->devicePixelRatioF()));
     dial->setIconSize(size);
-    dial->setAccessibleName(u"Call Selected Account"_s);
-    PutOff(dial);
+    dial->setToolTip(u"Call Selected Account"_s);
+    dial->setAccessibleName(dial->toolTip());
     return dial;
 }
 
@@ -290,8 +285,9 @@ QWidget* frmCustomer::MakeInternationalAddress() {
 }
 
 QWidget* frmCustomer::MakePhoneRow() {
-    return InOneLine(
-        {MakeText(CustomerText::Phone, u"Telephone"_s, phoneWidth, 12), MakeDialButton()});
+    Image1 = MakeDialButton();
+    connect(Image1, &QToolButton::clicked, this, &frmCustomer::Image1_Click);
+    return InOneLine({MakeText(CustomerText::Phone, u"Telephone"_s, phoneWidth, 12), Image1});
 }
 
 QWidget* frmCustomer::MakeFindCard() {
@@ -394,6 +390,7 @@ void frmCustomer::SetTabOrder() {
                              txtAdd3,
                              txtAdd4,
                              Text(CustomerText::Phone),
+                             Image1,
                              Text(CustomerText::Cell),
                              Text(CustomerText::Email)};
     order << fraSearch->TabStops() << fraCustomersFound->TabStops();
@@ -605,6 +602,13 @@ void frmCustomer::cmdCustomer_Click(Button index) {
         screens.GoFrom(ScreenName::frmCustomer, ScreenName::frmStartup);
     else
         screens.Hide(ScreenName::frmCustomer);
+}
+
+/// The name and number as they stand on the screen, which are not saved for it.
+void frmCustomer::Image1_Click() {
+    office.dialer.SetRecipient(Text(CustomerText::BusinessName)->text(),
+                               Text(CustomerText::Phone)->text());
+    screens.Show(ScreenName::frmDialer);
 }
 
 /// A search that finds no one leaves this screen where it is, behind the one that comes next.

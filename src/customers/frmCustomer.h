@@ -17,6 +17,7 @@ class EntryField;
 class Office;
 class QLabel;
 class QPushButton;
+class QToolButton;
 class Screens;
 
 /// The customers, one at a time: where they are kept, and where a delivery starts by selecting one.
@@ -86,6 +87,7 @@ private:
     void cboAccounts_Click(int row);
     void cmdCustomer_Click(Button index);
     void cmdStartSearch_Click();
+    void Image1_Click();
     void Timer1_Timer();
 
     EntryField* Text(CustomerText place) const { return txtCustomer.at(place); }
@@ -108,6 +110,7 @@ private:
     EntryBox* cboCity = nullptr;
     EntryBox* cboStates = nullptr;
     QLabel* lbLType = nullptr;
+    QToolButton* Image1 = nullptr;
     QPushButton* cmdAcctType = nullptr;
     QPushButton* cmdNew = nullptr;
     QWidget* fraUSAddress = nullptr;

@@ -7,6 +7,11 @@ ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
 }
 
+void ElidedLabel::SetTip(const QString& newTip) {
+    tip = newTip;
+    setToolTip(tip);
+}
+
 QSize ElidedLabel::minimumSizeHint() const {
     constexpr int fewestCharacters = 6;
     const int shortest = fontMetrics().averageCharWidth() * fewestCharacters;
@@ -15,7 +20,7 @@ QSize ElidedLabel::minimumSizeHint() const {
 
 void ElidedLabel::paintEvent(QPaintEvent*) {
     const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
-    setToolTip(shown == text() ? QString() : text());
+    setToolTip(shown == text() ? tip : text());
     QPainter painter(this);
     style()->drawItemText(&painter, contentsRect(), int(alignment()), palette(), isEnabled(), shown,
                           foregroundRole());

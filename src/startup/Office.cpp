@@ -2,7 +2,9 @@
 
 Office::Office(const QString& dataFolder, const Machine& theMachine)
     : machine(theMachine), disk(dataFolder), settingsStore(disk, settings, theMachine.pictures),
-      modem(disk, settings), setup(settingsStore, modem, settings, machine.user),
+      modem(disk, settings, machine.serialPort),
+      dialer(disk, settings, machine.serialPort, machine.user),
+      setup(settingsStore, modem, settings, machine.user),
       logo(settingsStore, settings, machine.pictures, commonDialog, machine.user),
       printLook(settings, commonDialog, machine.user),
       calendar(disk, machine.user, settings.WorkWeek),

@@ -5,6 +5,7 @@
 #include "customers/CustomerSearch.h"
 #include "customers/CustomerSelection.h"
 #include "platform/Clock.h"
+#include "platform/NoSerialPort.h"
 #include "platform/Operator.h"
 #include "platform/Picture.h"
 #include "platform/PrinterSurface.h"
@@ -44,15 +45,18 @@
 #include "store/BasicDiskRoutines.h"
 #include "store/Calendar.h"
 #include "store/DeliveryTimes.h"
+#include "telephone/Dialer.h"
 #include "telephone/Modem.h"
 
-/// What the machine gives the rules: the date, the person, paper, browser and pictures.
+/// What the machine gives the rules: the date, the person, paper, browser, pictures and serial
+/// port.
 struct Machine {
     const Clock& clock;
     Operator& user;
     PrinterSurface& printer;
     WebBrowser& browser;
     const PictureFiles& pictures;
+    SerialPort& serialPort = NoSerialPort::Only();
 };
 
 /// All rule modules of one run, wired together on one data folder. Nothing here knows a screen.
@@ -66,6 +70,7 @@ public:
     CommonDialog commonDialog;
     SettingsStore settingsStore;
     Modem modem;
+    Dialer dialer;
     SetupRoutines setup;
     CompanyLogo logo;
     PrintLook printLook;

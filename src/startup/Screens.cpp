@@ -14,6 +14,7 @@
 #include "slips/frmVehicle.h"
 #include "startup/Office.h"
 #include "startup/frmStartup.h"
+#include "telephone/frmDialer.h"
 
 #include <algorithm>
 
@@ -52,6 +53,8 @@ std::unique_ptr<Screen> Screens::Make(ScreenName name) {
         return std::make_unique<frmSalesReport>(office, *this);
     case ScreenName::frmInvoiceReport:
         return std::make_unique<frmInvoiceReport>(office, *this);
+    case ScreenName::frmDialer:
+        return std::make_unique<frmDialer>(office, *this);
     }
     return nullptr;
 }

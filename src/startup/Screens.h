@@ -21,6 +21,7 @@ enum class ScreenName {
     frmTaxForm,
     frmSalesReport,
     frmInvoiceReport,
+    frmDialer,
 };
 
 /// The screens, each made on first use and then shown and hidden. Moving on means hiding one and

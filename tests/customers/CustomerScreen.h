@@ -12,6 +12,8 @@
 /// The customer screen over the customers of a test.
 class CustomerScreen : public ScreenTest {
 protected:
+    using ScreenTest::ScreenTest;
+
     static constexpr ScreenName screen = ScreenName::frmCustomer;
     const QString customerFile = QStringLiteral("CustomerData.txt");
     const QString contractFile = QStringLiteral("ContractInfo.txt");

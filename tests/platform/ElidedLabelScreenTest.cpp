@@ -35,6 +35,13 @@ TEST_F(ElidedLabelTest, ToolTipGoesWithTheTextThatNeededIt) {
     EXPECT_EQ(TipInWidth(u"Farm"_s, 80), QString());
 }
 
+TEST_F(ElidedLabelTest, TipOfItsOwnGivesWayToATextCutShortAndComesBack) {
+    label.SetTip(u"Customer"_s);
+    EXPECT_EQ(label.toolTip(), u"Customer"_s);
+    EXPECT_EQ(TipInWidth(longText, 80), longText);
+    EXPECT_EQ(TipInWidth(u"Farm"_s, 200), u"Customer"_s);
+}
+
 TEST_F(ElidedLabelTest, LongTextNeedsNoMoreThanAFewCharactersOfRoom) {
     label.setText(longText);
     EXPECT_LE(label.minimumSizeHint().width(), 6 * label.fontMetrics().averageCharWidth());

@@ -5,7 +5,10 @@
 
 #include <QLocale>
 
-OfficeTest::OfficeTest() : office(folder.Path(), {clock, user, printer, browser, pictures}) {
+OfficeTest::OfficeTest() : OfficeTest(NoSerialPort::Only()) {}
+
+OfficeTest::OfficeTest(SerialPort& serialPort)
+    : office(folder.Path(), {clock, user, printer, browser, pictures, serialPort}) {
     UseLocale("en_US");
     CreateFolders(office.disk, clock);
     office.setup.LoadAll();

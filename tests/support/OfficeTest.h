@@ -33,6 +33,8 @@ public:
 class OfficeTest : public testing::Test {
 protected:
     OfficeTest();
+    /// On a machine with serial ports.
+    explicit OfficeTest(SerialPort& serialPort);
 
     void UseLocale(const char* name) const;
 

@@ -6,7 +6,9 @@
 #include <QLabel>
 #include <QtTest/qtestspontaneevent.h>
 
-ScreenTest::ScreenTest() : screens(office) {
+ScreenTest::ScreenTest() : ScreenTest(NoSerialPort::Only()) {}
+
+ScreenTest::ScreenTest(SerialPort& serialPort) : OfficeTest(serialPort), screens(office) {
     Failures().clear();
     QObject::connect(&screens, &Screens::ExitRequested, [this] { ++exitRequests; });
 }

@@ -14,6 +14,8 @@ class Grid;
 class ScreenTest : public OfficeTest {
 protected:
     ScreenTest();
+    /// On a machine with serial ports.
+    explicit ScreenTest(SerialPort& serialPort);
 
     /// The control of that name on a screen. A missing one fails the test with the list of the
     /// names that are there.

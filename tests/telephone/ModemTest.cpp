@@ -1,10 +1,15 @@
 #include "telephone/Modem.h"
 
 #include "support/OfficeTest.h"
+#include "support/PlayedModem.h"
+#include "support/PlayedPorts.h"
+
+#include <QTest>
 
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -13,14 +18,46 @@ const QString copyOfPhone = u"Backup/Phone.txt"_s;
 
 } // namespace
 
-class ModemTest : public OfficeTest {
+class ModemTest : protected PlayedPorts, public OfficeTest {
 protected:
-    ModemTest() { folder.Remove(phone); }
+    ModemTest() : OfficeTest(port) { folder.Remove(phone); }
 
     LiveSettings& live = office.settings;
 
     RuntimeFailure FailureOfSetUp() {
         return FailureOf([&] { office.modem.SetUpModem(); });
+    }
+
+    static bool HasHeard(const PlayedModem& modem, const QByteArray& bytes) {
+        return QTest::qWaitFor([&] { return modem.Heard() == bytes; });
+    }
+
+    void ExpectFound(qint16 number) {
+        EXPECT_EQ(live.ComPort, number);
+        EXPECT_EQ(live.txtModemPort, QString::number(number));
+        EXPECT_EQ(office.modem.Text1, u"Your Modem Comm Port Is %1."_s.arg(number));
+        EXPECT_EQ(office.modem.Label2, u"COM Port # %1"_s.arg(number));
+        EXPECT_EQ(port.CommPort(), number);
+        EXPECT_TRUE(port.PortOpen());
+    }
+
+    /// What is left of a search without a find: port 1, as if it were there.
+    void ExpectNotFound() {
+        EXPECT_EQ(live.ComPort, 1);
+        EXPECT_EQ(live.txtModemPort, u"1"_s);
+        EXPECT_EQ(office.modem.Text1, u"Your Modem Comm Port Is 1."_s);
+        EXPECT_EQ(office.modem.Label2, u"COM Port # 1"_s);
+        EXPECT_EQ(port.CommPort(), 1);
+    }
+
+    /// A modem of that kind on port 4 is not found.
+    void ExpectOverheard(const PlayedModem::Answers& answers) {
+        const PlayedModem modem(answers);
+        devices = {{4, modem.Device()}};
+        office.modem.SetUpModem();
+        ExpectNotFound();
+        EXPECT_FALSE(port.PortOpen());
+        EXPECT_TRUE(HasHeard(modem, "AT\r")) << modem.Heard().toStdString();
     }
 };
 
@@ -111,7 +148,190 @@ TEST_F(ModemTest, FieldsBehindTheTwoAreIgnored) {
     EXPECT_EQ(folder.Read(phone), "#TRUE#\r\n5\r\n");
 }
 
+// The search for the modem.
+
+TEST_F(ModemTest, ModemThatAnswersAtOnceIsFoundAndItsPortIsLeftOpenWithCallerIdOn) {
+    const PlayedModem modem;
+    devices = {{3, modem.Device()}};
+    office.modem.SetUpModem();
+    ExpectFound(3);
+    EXPECT_TRUE(HasHeard(modem, "AT\rAT#CID=1\r"));
+    EXPECT_EQ(folder.Read(phone), "#FALSE#\r\n3\r\n");
+}
+
+TEST_F(ModemTest, EachOfSixteenPortsIsAsked) {
+    for (const qint16 number : std::initializer_list<qint16>{1, 2, 15, 16}) {
+        const PlayedModem modem;
+        devices = {{number, modem.Device()}};
+        office.modem.SetUpModem();
+        ExpectFound(number);
+        port.Close();
+        folder.Remove(phone);
+    }
+}
+
+TEST_F(ModemTest, SearchStopsAtTheFirstModem) {
+    const PlayedModem first;
+    const PlayedModem second;
+    devices = {{2, first.Device()}, {5, second.Device()}};
+    office.modem.SetUpModem();
+    ExpectFound(2);
+    EXPECT_TRUE(HasHeard(first, "AT\rAT#CID=1\r"));
+    EXPECT_EQ(second.Heard(), QByteArray());
+}
+
+TEST_F(ModemTest, ModemBehindSilentPortsIsFound) {
+    const PlayedModem silent(PlayedModem::Silence);
+    const PlayedModem modem;
+    devices = {{1, silent.Device()}, {16, modem.Device()}};
+    office.modem.SetUpModem();
+    ExpectFound(16);
+    EXPECT_TRUE(HasHeard(silent, "AT\r"));
+}
+
+TEST_F(ModemTest, PortOfTheFileIsKeptBesideTheOneThatTheProbeFinds) {
+    const PlayedModem modem;
+    devices = {{3, modem.Device()}};
+    folder.Write(phone, "#FALSE#\r\n5\r\n");
+    office.modem.SetUpModem();
+    EXPECT_EQ(live.txtModemPort, u"3"_s);
+    EXPECT_EQ(port.CommPort(), 3);
+    EXPECT_TRUE(port.PortOpen());
+    EXPECT_EQ(office.modem.Text1, u"Your Modem Comm Port Is 3."_s);
+    EXPECT_EQ(live.ComPort, 5);
+    EXPECT_EQ(folder.Read(phone), "#FALSE#\r\n5\r\n");
+}
+
+TEST_F(ModemTest, CallerIdIsSwitchedOnWhetherItIsInUseOrNot) {
+    for (const bool isInUse : {false, true}) {
+        live.CallerIdOn = isInUse;
+        const PlayedModem modem;
+        devices = {{1, modem.Device()}};
+        office.modem.SetUpModem();
+        EXPECT_TRUE(HasHeard(modem, "AT\rAT#CID=1\r"));
+        port.Close();
+    }
+}
+
+TEST_F(ModemTest, ModemThatAnswersLateIsNotFound) {
+    ExpectOverheard([](const QByteArray& command) {
+        return std::vector<PlayedModem::Piece>{{400ms, command + "\r\r\nOK\r\n"}};
+    });
+}
+
+TEST_F(ModemTest, ModemThatNeverAnswersIsNotFound) {
+    ExpectOverheard(PlayedModem::Silence);
+}
+
+TEST_F(ModemTest, OneByteInTimeIsNoAnswer) {
+    ExpectOverheard([](const QByteArray&) {
+        return std::vector<PlayedModem::Piece>{{0ms, "O"}, {400ms, "K\r\n"}};
+    });
+}
+
+TEST_F(ModemTest, TwoHalvesInTimeAreAnAnswer) {
+    const PlayedModem modem([](const QByteArray&) {
+        return std::vector<PlayedModem::Piece>{{0ms, "O"}, {2ms, "K"}};
+    });
+    devices = {{1, modem.Device()}};
+    office.modem.SetUpModem();
+    ExpectFound(1);
+}
+
+TEST_F(ModemTest, AnyTwoBytesAreAnAnswer) {
+    const PlayedModem modem([](const QByteArray&) {
+        return std::vector<PlayedModem::Piece>{{0ms, QByteArray("\x00\xff", 2)}};
+    });
+    devices = {{1, modem.Device()}};
+    office.modem.SetUpModem();
+    ExpectFound(1);
+}
+
+TEST_F(ModemTest, SilentDeviceOnPort1IsTakenForTheModemWhenNoneIsFound) {
+    const PlayedModem silent(PlayedModem::Silence);
+    devices = {{1, silent.Device()}};
+    office.modem.SetUpModem();
+    ExpectFound(1);
+    EXPECT_TRUE(HasHeard(silent, "AT\rAT#CID=1\r"));
+}
+
+TEST_F(ModemTest, PortThatIsOpenAlreadyIsNotAskedAndNotChanged) {
+    const PlayedModem modem;
+    devices = {{3, modem.Device()}};
+    OpenPort(3);
+    office.modem.SetUpModem();
+    EXPECT_EQ(live.txtModemPort, u"1"_s);
+    EXPECT_EQ(port.CommPort(), 3);
+    EXPECT_TRUE(port.PortOpen());
+    EXPECT_TRUE(HasHeard(modem, "AT#CID=1\r"));
+}
+
+TEST_F(ModemTest, AnswerToTheSearchIsForgottenAndReportsAfterItAreLeftUnread) {
+    const PlayedModem modem([](const QByteArray& command) {
+        return command == "AT" ? PlayedModem::Ok(command) : PlayedModem::Silence(command);
+    });
+    devices = {{1, modem.Device()}};
+    office.modem.SetUpModem();
+    EXPECT_EQ(port.InBufferCount(), 0);
+    modem.Say("\r\nRING\r\n");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return port.InBufferCount() == 8; }));
+    EXPECT_EQ(port.Input(), "\r\nRING\r\n");
+}
+
+TEST_F(ModemTest, DeviceThatIsNoSerialPortIsPassedOver) {
+    const PlayedModem modem;
+    folder.Write(u"plain file"_s, "AT\r");
+    devices = {{1, folder.PathOf(u"plain file"_s)},
+               {2, folder.Path()},
+               {3, u"/dev/null"_s},
+               {4, folder.PathOf(u"missing"_s)},
+               {5, modem.Device()}};
+    office.modem.SetUpModem();
+    ExpectFound(5);
+    EXPECT_EQ(folder.Read(u"plain file"_s), "AT\r");
+}
+
+TEST_F(ModemTest, PortThatMayNotBeOpenedIsPassedOver) {
+    const PlayedModem forbidden;
+    ASSERT_EQ(::chmod(forbidden.Device().toLatin1().constData(), 0), 0);
+    DropRootRights(folder);
+    const PlayedModem modem;
+    devices = {{1, forbidden.Device()}, {2, modem.Device()}};
+    office.modem.SetUpModem();
+    ExpectFound(2);
+    EXPECT_EQ(forbidden.Heard(), QByteArray());
+}
+
+TEST_F(ModemTest, ModemThatVanishesAfterTheSearchLeavesAClosedPortAndTheNextSearchGoesOn) {
+    PlayedModem modem;
+    devices = {{1, modem.Device()}};
+    office.modem.SetUpModem();
+    ExpectFound(1);
+    modem.Vanish();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !port.PortOpen(); }));
+    folder.Remove(phone);
+    const PlayedModem next;
+    devices = {{7, next.Device()}};
+    office.modem.SetUpModem();
+    ExpectFound(7);
+}
+
 // Bad input.
+
+TEST_F(ModemTest, PortOfTheFileThatIsNoneIsKeptAndNotOpened) {
+    const PlayedModem modem;
+    for (const QByteArray& number : {QByteArray("0"), QByteArray("17"), QByteArray("-1")}) {
+        devices = {{2, modem.Device()}};
+        const QByteArray bytes = "#TRUE#\r\n" + number + "\r\n";
+        folder.Write(phone, bytes);
+        office.modem.SetUpModem();
+        EXPECT_EQ(folder.Read(phone), bytes);
+        EXPECT_EQ(QByteArray::number(live.ComPort), number);
+        EXPECT_EQ(live.txtModemPort, u"2"_s);
+        EXPECT_EQ(port.CommPort(), 2);
+        port.Close();
+    }
+}
 
 TEST_F(ModemTest, FileCutAnywhereBeforeThePortFailsAndStaysAsItIs) {
     const QByteArray whole = "#TRUE#\r\n5\r\n";
@@ -143,6 +363,7 @@ TEST_F(ModemTest, ValueOfTheWrongTypeFailsByNameAndStaysAsItIs) {
         {"#TRUE#\r\n#TRUE#\r\n", FailureKind::TypeMismatch},
         {"#TRUE#\r\n\r\n", FailureKind::TypeMismatch},
         {"#TRUE#\r\n32768\r\n", FailureKind::Overflow},
+        {"#TRUE#\r\n40000\r\n", FailureKind::Overflow},
         {"#TRUE#\r\n-32769\r\n", FailureKind::Overflow},
         {"#TRUE#\r\n9E999\r\n", FailureKind::Overflow}};
     for (const auto& [bytes, kind] : files) {
