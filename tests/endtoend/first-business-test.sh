@@ -76,11 +76,12 @@ en_US)
         Text 25 'Ice Block'
     }
     newUnit=Bundles
-    # Account, name, addresses, city, state, postal code, telephone, cell, e-mail.
+    # Account, name, addresses, city, state, postal code, telephone, the button that calls, cell,
+    # e-mail.
     businessAccount=(A-1001 'Corner Grocery' '5 Oak Street' 'Unit 3' Chatham IL 62629-1234
-        217-555-0142 '' orders@grocery.example)
+        217-555-0142 '' '' orders@grocery.example)
     # Without a number; title and names; city, state and postal code are those proposed.
-    individualAccount=('' Mrs Anna Q Miller '9 Elm Street' '' '' '' '' 217-555-0177 217-555-0178 '')
+    individualAccount=('' Mrs Anna Q Miller '9 Elm Street' '' '' '' '' 217-555-0177 '' 217-555-0178 '')
     # The business before and after it has been shown, as its record is written again then, is the
     # same.
     ExpectBusinessAccount() {
@@ -184,11 +185,11 @@ de_DE)
         Text 25 Stangeneis
     }
     newUnit=Kübel
-    # Account, name, addresses 1 to 4, telephone, cell, e-mail.
+    # Account, name, addresses 1 to 4, telephone, the button that calls, cell, e-mail.
     businessAccount=(K-1 'Bäckerei Groß & Söhne' 'Untermarkt 3' Hinterhaus '02826 Görlitz'
-        Sachsen 03581-555-14 '' bestellung@gross.example)
+        Sachsen 03581-555-14 '' '' bestellung@gross.example)
     individualAccount=('' Frau Jördis X Müller 'Elbstraße 9' '' '02827 Görlitz' Sachsen
-        03581-555-77 0151-555-078 '')
+        03581-555-77 '' 0151-555-078 '')
     # Both styles' fields are filled when a record is shown, and the other style's are written too.
     ExpectBusinessAccount() {
         local city='' postal=''
