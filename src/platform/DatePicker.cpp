@@ -85,7 +85,8 @@ void DatePicker::OpenCalendar() {
     auto* rows = new QVBoxLayout(popup);
     rows->setContentsMargins(1, 1, 1, 1);
     rows->addWidget(calendar);
-    connect(popup, &QObject::destroyed, this, &DatePicker::Dismissed);
+    // Queued, since the calendar also goes when the field itself does.
+    connect(popup, &QObject::destroyed, this, &DatePicker::Dismissed, Qt::QueuedConnection);
     connect(calendar, &MonthView::DateClick, this, [this, popup](QDate picked) {
         popup->disconnect(this);
         popup->close();
