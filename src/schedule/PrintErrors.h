@@ -5,7 +5,7 @@
 #include "platform/RuntimeFailure.h"
 
 /// The one handler of a printing error: whatever goes wrong throws the job away, tells the operator
-/// and leaves the program running. A cancelled job needs no telling. An EndingFailure goes through.
+/// and leaves the program running. A cancelled job needs no telling.
 template <typename Printing>
 void HandlePrintErrors(PrinterSurface& surface, Operator& user, Printing&& print) {
     try {
