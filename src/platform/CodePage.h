@@ -8,5 +8,7 @@
 
 /// A character that the code page lacks becomes "?".
 QByteArray ToCodePage(QStringView text);
+/// The same into `room` bytes: what doesn't fit is cut. Returns how many bytes it takes.
+size_t EncodeInto(char* bytes, size_t room, QStringView text);
 QString FromCodePage(QByteArrayView bytes);
 bool IsInCodePage(QStringView text);

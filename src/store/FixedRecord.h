@@ -23,9 +23,7 @@ struct FixedText {
     std::array<char, Width> bytes;
 
     FixedText& operator=(const QString& text) {
-        const QByteArray encoded = ToCodePage(text).left(qsizetype(Width));
-        bytes.fill(' ');
-        std::copy(encoded.begin(), encoded.end(), bytes.begin());
+        std::fill(bytes.begin() + EncodeInto(bytes.data(), Width, text), bytes.end(), ' ');
         return *this;
     }
 
