@@ -1,4 +1,5 @@
 #include "schedule/InvoiceRecords.h"
+#include "store/Conversions.h"
 #include "support/BenchOffice.h"
 #include "support/Comparison.h"
 #include "support/PlainFiles.h"
@@ -67,6 +68,71 @@ static void LoadScheduleGrid(benchmark::State& state) {
         });
 }
 BENCHMARK(LoadScheduleGrid)->UseManualTime()->Iterations(31)->Unit(benchmark::kMillisecond);
+
+namespace {
+
+/// Slips over the days of a month and the times of a day, in no order.
+void WriteRangeSlips(Office& office, int slips) {
+    office.deliveryTimes.BuildTimeLists();
+    const QStringList times = office.deliveryTimes.stringList();
+    const QDate today = office.machine.clock.Today();
+    constexpr int days = 30;
+    constexpr int dayStep = 7;
+    constexpr int timeStep = 5;
+    for (int number = 1; number <= slips; ++number) {
+        const QDate date = today.addDays(number * dayStep % days);
+        WriteHeader(office, {.number = SlipNumber(number),
+                             .date = ShortDateText(date),
+                             .time = times[number * timeStep % times.size()],
+                             .recurring = u"True"_s,
+                             .frequency = u"0000001"_s});
+    }
+}
+
+std::vector<QString> CellsOf(const GridModel& grid) {
+    std::vector<QString> cells;
+    for (int row = 1; row <= grid.DataRows(); ++row) {
+        for (int column = 0; column < grid.Columns(); ++column)
+            cells.push_back(grid.Text(row, column));
+    }
+    return cells;
+}
+
+/// Fills a grid of that many columns with texts of its own, row by row.
+void FillBareGrid(GridModel& grid, const std::vector<QString>& cells) {
+    const GridModel::Refill refill(grid);
+    grid.ClearGrid();
+    const int columns = grid.Columns();
+    grid.SetRows(int(cells.size()) / columns + 1);
+    size_t next = 0;
+    for (int row = 1; row <= grid.DataRows(); ++row) {
+        for (int column = 0; column < columns; ++column)
+            grid.SetText(row, column, QStringView(cells[next++]).toString());
+    }
+}
+
+} // namespace
+
+static void LoadWeeklyGrid(benchmark::State& state) {
+    constexpr int slips = 10'000;
+    const BenchFolder folder;
+    BenchOffice office(folder.Path());
+    WriteRangeSlips(office.rules, slips);
+    WeeklySchedule& weekly = office.rules.weekly;
+    weekly.Load();
+    weekly.LoadGrid();
+    if (weekly.Deliveries() != slips) {
+        state.SkipWithError("The range has not the deliveries that it was given.");
+        return;
+    }
+    const std::vector<QString> cells = CellsOf(weekly.fgWeekly);
+    GridModel bare(QStringList(weekly.fgWeekly.Columns(), QString()));
+    CompareWithFloor(
+        state, {"Filling the range view with 10,000 slips against filling its cells", 3.0},
+        [&] { return SecondsOf([&] { weekly.LoadGrid(); }); },
+        [&] { return SecondsOf([&] { FillBareGrid(bare, cells); }); });
+}
+BENCHMARK(LoadWeeklyGrid)->UseManualTime()->Iterations(31)->Unit(benchmark::kMillisecond);
 
 namespace {
 

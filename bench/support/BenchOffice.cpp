@@ -28,7 +28,7 @@ SlipHeader HeaderOf(const BenchSlip& slip) {
     SlipHeader header;
     header[SlipLine::SlipNumber] = slip.number;
     header[SlipLine::Date] = slip.date;
-    header[SlipLine::Time] = u"08:30am"_s;
+    header[SlipLine::Time] = slip.time;
     header[SlipLine::Recurring] = slip.recurring;
     header[SlipLine::Frequency] = slip.frequency;
     header[SlipLine::Vehicle] = slip.vehicle;

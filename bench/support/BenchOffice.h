@@ -75,6 +75,7 @@ struct BenchOffice {
 struct BenchSlip {
     QString number;
     QString date = QStringLiteral("3/16/2026");
+    QString time = QStringLiteral("08:30am");
     QString recurring = QStringLiteral("False");
     QString frequency = {};
     QString vehicle = QStringLiteral("Flatbed Truck");
