@@ -156,7 +156,7 @@ int CustomerSearch::FillGrid(SearchField field, const QString& searchText) {
         // By twice as many each time: adding thousands one by one would take longer than reading
         // their records.
         if (fgCustomersFound.DataRows() < foundCount)
-            fgCustomersFound.SetRows(2 * foundCount + 1);
+            fgCustomersFound.SetRows(std::min(2 * foundCount, count) + 1);
         fgCustomersFound.SetText(foundCount, int(FoundColumn::Name), DisplayName(customer));
         fgCustomersFound.SetText(foundCount, int(FoundColumn::Telephone),
                                  ShownText(customer.Phone));
