@@ -115,3 +115,120 @@ static void PastDatePass(benchmark::State& state) {
         [&] { return slips.MoveOn(); }, [&] { return slips.Rewrite(); });
 }
 BENCHMARK(PastDatePass)->UseManualTime()->Iterations(21)->Unit(benchmark::kMillisecond);
+
+namespace {
+
+constexpr int linesOfSlip = 100;
+
+/// The lines of a full slip.
+class FullSlip : public GridModel {
+public:
+    FullSlip() : GridModel({u"Units"_s, u"Description"_s, u"Price"_s, u"Total"_s}) {
+        SetRows(linesOfSlip + 1);
+        for (int row = 1; row <= linesOfSlip; ++row) {
+            SetText(row, 0, QString::number(row));
+            SetText(row, 1, u"Framing Lumber 2x4x8 grade "_s + QString::number(row));
+            SetText(row, 2, u"$12.50"_s);
+            SetText(row, 3, u"$%1.00"_s.arg(10 * row));
+        }
+    }
+};
+
+/// Slips of 100 lines, stored anew by turns with their floor, under the same names.
+class StoredSlips {
+public:
+    StoredSlips() {
+        office.rules.slips.LoadDeliveryNo();
+        Store();
+        for (const QString& folderName : {u"Deliveries"_s, u"DeliveryItems"_s}) {
+            for (const std::string& path :
+                 PlainList((folder.Path() + u"/TesselDelivery/"_s + folderName).toStdString()))
+                contents.emplace_back(path, PlainRead(path));
+        }
+    }
+
+    /// All that storing a slip does to the disk: its two files and the counter.
+    double Store() {
+        TakeAway();
+        return SecondsOf([&] {
+            for (int number = 1; number <= slips; ++number) {
+                header[SlipLine::SlipNumber] = SlipNumber(number);
+                office.rules.slips.WriteSlipHeader(header);
+                office.rules.slips.WriteSlipItems(grid, SlipNumber(number), linesOfSlip,
+                                                  u"$50,500.00"_s);
+                office.rules.slips.UpdateDeliveryCounter();
+            }
+        });
+    }
+
+    double Write() {
+        TakeAway();
+        return SecondsOf([&] {
+            for (const auto& [path, bytes] : contents)
+                PlainWrite(path, bytes);
+        });
+    }
+
+    bool AreWhole() const {
+        return contents.size() == size_t(2 * slips) &&
+               std::all_of(contents.begin(), contents.end(),
+                           [](const auto& content) { return !content.second.empty(); });
+    }
+
+private:
+    void TakeAway() const {
+        for (const auto& [path, bytes] : contents)
+            PlainRemove(path);
+    }
+
+    static constexpr int slips = 100;
+    BenchFolder folder;
+    BenchOffice office{folder.Path()};
+    FullSlip grid;
+    SlipHeader header = HeaderOf({});
+    std::vector<std::pair<std::string, std::string>> contents;
+};
+
+} // namespace
+
+static void StoreSlip(benchmark::State& state) {
+    StoredSlips slips;
+    if (!slips.AreWhole()) {
+        state.SkipWithError("A slip has not been stored.");
+        return;
+    }
+    CompareWithFloor(
+        state, {"Storing 100 slips of 100 lines against writing their files", 2.0},
+        [&] { return slips.Store(); }, [&] { return slips.Write(); });
+}
+BENCHMARK(StoreSlip)->UseManualTime()->Iterations(21)->Unit(benchmark::kMillisecond);
+
+static void LoadTemplate(benchmark::State& state) {
+    constexpr int loads = 100;
+    const BenchFolder folder;
+    BenchOffice office(folder.Path());
+    office.user.Input = u"Weekly order"_s;
+    office.rules.templates.SaveTemplate(FullSlip());
+    const std::string path = folder.Path().toStdString() + "/Templates/Deliveries/Weekly order.txt";
+    GridModel grid({u"Units"_s, u"Description"_s, u"Price"_s, u"Total"_s});
+    CompareWithFloor(
+        state, {"Loading a template of 100 lines 100 times against reading it", 3.0},
+        [&] {
+            return SecondsOf([&] {
+                for (int load = 0; load < loads; ++load) {
+                    grid.ClearGrid();
+                    office.rules.templates.LoadTemplate(grid);
+                }
+            });
+        },
+        [&] {
+            return SecondsOf([&] {
+                for (int load = 0; load < loads; ++load)
+                    PlainReadRecords(path, sizeof(TemplateRecord),
+                                     [](const char* record) { benchmark::DoNotOptimize(record); });
+            });
+        });
+    if (grid.Text(linesOfSlip, 3) != u"$1,250.00"_s)
+        state.SkipWithError("The template has not been loaded.");
+}
+BENCHMARK(LoadTemplate)->UseManualTime()->Iterations(21)->Unit(benchmark::kMillisecond);

@@ -24,7 +24,7 @@ BenchOffice::BenchOffice(const QString& dataFolder)
     rules.setup.LoadAll();
 }
 
-void WriteHeader(Office& office, const BenchSlip& slip) {
+SlipHeader HeaderOf(const BenchSlip& slip) {
     SlipHeader header;
     header[SlipLine::SlipNumber] = slip.number;
     header[SlipLine::Date] = slip.date;
@@ -39,7 +39,11 @@ void WriteHeader(Office& office, const BenchSlip& slip) {
     header.soldTo = {slip.customer, u"12 Mill Road"_s, {}, u"Springfield"_s, u"IL"_s, u"62704"_s};
     header.deliverTo = {slip.customer, u"9 Elm Street"_s, u"Apt 4"_s,
                         u"Riverton"_s, u"IL"_s,           u"62561"_s};
-    office.slips.WriteSlipHeader(header);
+    return header;
+}
+
+void WriteHeader(Office& office, const BenchSlip& slip) {
+    office.slips.WriteSlipHeader(HeaderOf(slip));
     office.disk.CloseAllFiles();
 }
 

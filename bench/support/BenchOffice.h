@@ -28,11 +28,13 @@ public:
 /// came.
 class NoSayer : public Operator {
 public:
+    /// The answer to input boxes; none for a cancel.
+    std::optional<QString> Input;
     std::optional<std::chrono::steady_clock::time_point> FirstMessage;
 
     Answer MsgBox(const QString& text, Buttons buttons, const QString& title) override;
     std::optional<QString> InputBox(const QString&, const QString&, const QString&) override {
-        return {};
+        return Input;
     }
     std::optional<QString> AskForFile(const QString&) override { return {}; }
     std::optional<quint32> AskForColor(quint32) override { return {}; }
@@ -75,6 +77,7 @@ struct BenchSlip {
     QString customer = QStringLiteral("Corner Grocery");
 };
 
+SlipHeader HeaderOf(const BenchSlip& slip);
 void WriteHeader(Office& office, const BenchSlip& slip);
 void WriteItems(Office& office, const BenchSlip& slip, int items);
 

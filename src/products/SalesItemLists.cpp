@@ -9,8 +9,6 @@ namespace {
 const QString inventoriedFile = u"/NXInventoriedItems.txt"_s;
 const QString nonInventoriedFile = u"/NonInventoriedItems.txt"_s;
 
-enum AddItemColumn { SelectColumn, QuantityColumn, DescriptionColumn, PriceColumn, TotalColumn };
-
 } // namespace
 
 SalesItemLists::SalesItemLists(BasicDiskRoutines& diskRoutines)
@@ -35,8 +33,8 @@ void SalesItemLists::RefreshInventoriedItemLists() {
         const auto item = ReadRecord<SalesItem>(disk, disk.DiskFile, row);
         names += item.Description.Trimmed();
         prices += CurrencyText(item.SellPrice.Value());
-        fgAddItems.SetText(row, DescriptionColumn, names.last());
-        fgAddItems.SetText(row, PriceColumn, prices.last());
+        fgAddItems.SetText(row, int(AddItemColumn::Description), names.last());
+        fgAddItems.SetText(row, int(AddItemColumn::SellPrice), prices.last());
         fgAddItems.SetRows(row + 2);
     }
     if (count > 0)
@@ -59,9 +57,9 @@ void SalesItemLists::RefreshNonInventoriedItemLists() {
         names += item.Description.Trimmed();
         const int row = fgAddItems.Rows();
         fgAddItems.SetRows(row + 1);
-        fgAddItems.SetText(row, DescriptionColumn, names.last());
-        fgAddItems.SetText(row, PriceColumn, ZeroCurrencyText());
-        fgAddItems.SetText(row, TotalColumn, ZeroCurrencyText());
+        fgAddItems.SetText(row, int(AddItemColumn::Description), names.last());
+        fgAddItems.SetText(row, int(AddItemColumn::SellPrice), ZeroCurrencyText());
+        fgAddItems.SetText(row, int(AddItemColumn::ItemTotal), ZeroCurrencyText());
         SelectLastAddItem();
     }
     disk.CloseAllFiles();

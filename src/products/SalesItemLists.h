@@ -44,6 +44,9 @@ static_assert(offsetof(NonInventoriedItem, OnHand) == 50);
 static_assert(offsetof(NonInventoriedItem, ReorderAmount) == 52);
 static_assert(offsetof(NonInventoriedItem, ReorderPoint) == 54);
 
+/// Columns of fgAddItems.
+enum class AddItemColumn { Select, Quantity, Description, SellPrice, ItemTotal };
+
 /// The lists by which all screens but the products screen know the items. They are filled from the
 /// files when a refresh routine runs, and not in between.
 class SalesItemLists {

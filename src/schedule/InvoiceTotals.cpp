@@ -1,5 +1,6 @@
 #include "schedule/InvoiceTotals.h"
 
+#include "slips/DeliverySlipRoutines.h"
 #include "store/Conversions.h"
 
 using namespace Qt::StringLiterals;
@@ -69,4 +70,21 @@ void UpdateGrandTotal(SlipCaptions& captions) {
                                           ToCurrency(captions.lblCharge, u"the charge"_s) +
                                           ToCurrency(captions.lblTax1, u"the first tax"_s) +
                                           ToCurrency(captions.lblTax2, u"the second tax"_s));
+}
+
+QString ItemTotal(const QString& sellPrice, const QString& quantity) {
+    return CurrencyText(ToDouble(sellPrice, u"the sell price"_s) *
+                        ToDouble(quantity, u"the quantity"_s));
+}
+
+void RecalcSlipTotals(const GridModel& fgItems, const LiveSettings& settings,
+                      const TaxOptions& options, SlipCaptions& captions) {
+    Currency sum;
+    for (int row = 1; row <= fgItems.DataRows(); ++row)
+        sum += ToCurrency(fgItems.Text(row, int(SlipItemColumn::LineTotal)), u"an item total"_s);
+    captions.lblTotal = CurrencyText(sum);
+    if (!IsTaxApplied(settings))
+        return;
+    captions.fraTax = true;
+    CalculateTaxes(ToCurrency(captions.lblTotal, u"the sub-total"_s), settings, options, captions);
 }

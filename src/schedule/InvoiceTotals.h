@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/GridModel.h"
 #include "schedule/SlipCaptions.h"
 #include "setup/LiveSettings.h"
 #include "store/Currency.h"
@@ -36,3 +37,11 @@ void CalculateTaxes(Currency subTotal, const LiveSettings& settings, const TaxOp
 
 /// The grand total: sub-total, charge and both taxes, as their captions read.
 void UpdateGrandTotal(SlipCaptions& captions);
+
+/// The total of an item that is added to a slip. The sell price is currency text.
+QString ItemTotal(const QString& sellPrice, const QString& quantity);
+
+/// Sums the item totals of fgItems into the sub-total, and computes the taxes when one is applied.
+/// The grand total leaves out the charge then; without a tax it stays as it was.
+void RecalcSlipTotals(const GridModel& fgItems, const LiveSettings& settings,
+                      const TaxOptions& options, SlipCaptions& captions);

@@ -8,6 +8,7 @@
 #include "platform/Grid.h"
 #include "platform/Theme.h"
 #include "platform/UpDown.h"
+#include "schedule/AddItemsPanel.h"
 #include "startup/Office.h"
 #include "startup/Screens.h"
 #include "store/Conversions.h"
@@ -65,7 +66,9 @@ frmPrintSchedules::frmPrintSchedules(Office& theOffice, Screens& allScreens)
     left->setContentsMargins({});
     side->setFixedWidth(Em(sideWidth));
 
-    auto* choices = new QHBoxLayout;
+    printChoices = new QWidget;
+    auto* choices = new QHBoxLayout(printChoices);
+    choices->setContentsMargins({});
     choices->setSpacing(cardGap);
     choices->addWidget(MakeTaxCard());
     choices->addWidget(MakePrintCard());
@@ -75,7 +78,8 @@ frmPrintSchedules::frmPrintSchedules(Office& theOffice, Screens& allScreens)
     right->setSpacing(cardGap);
     right->addWidget(MakeScheduleGrid(), 1);
     right->addWidget(MakeSlipPanel());
-    right->addLayout(choices);
+    right->addWidget(MakeAddItemsPanel(), 1);
+    right->addWidget(printChoices);
 
     auto* columns = new QHBoxLayout(Body());
     columns->setContentsMargins(bodySide, bodyTop, bodySide, bodyTop);
@@ -101,9 +105,11 @@ void frmPrintSchedules::MakeFootButtons() {
     AddAction(MakeButton(SelectAll, u"&Select All"_s));
     AddAction(MakeButton(DeselectAll, u"Deselect &All"_s));
     AddAction(MakeButton(ToggleSlip, u"Toggle Delivery Slip"_s));
-    AddAction(MakeButton(AddItems, u"Add Items"_s, u"Not part of this version yet"_s));
+    AddAction(MakeButton(AddItems, u"Add Items"_s));
+    AddAction(MakeButton(SaveSlip, u"Save Slip"_s));
     AddMainAction(MakeButton(Print, u"&Print"_s));
-    cmdPrint[AddItems]->setEnabled(false);
+    OfferAddItems(false);
+    cmdPrint[SaveSlip]->setEnabled(false);
     cmdPrint[ToggleSlip]->setEnabled(false);
 }
 
@@ -257,6 +263,17 @@ QWidget* frmPrintSchedules::MakeSlipPanel() {
     return fraSlip;
 }
 
+QWidget* frmPrintSchedules::MakeAddItemsPanel() {
+    fraAddItems =
+        new AddItemsPanel(office.addedItems, office.items.fgAddItems, office.machine.user);
+    connect(fraAddItems, &AddItemsPanel::Added, this, [this] {
+        ShowSlip();
+        cmdPrint[SaveSlip]->setEnabled(office.addedItems.SaveIsEnabled);
+    });
+    connect(fraAddItems, &AddItemsPanel::Closed, this, [this] { ShowAddItems(false); });
+    return fraAddItems;
+}
+
 QWidget* frmPrintSchedules::MakeSlipAddresses() {
     const QString headings[addressLines] = {u"Name"_s, u"Street"_s, u"Apt"_s,
                                             u"City"_s, u"St"_s,     u"Zip"_s};
@@ -351,6 +368,7 @@ void frmPrintSchedules::Initform() {
     ShowBoard();
     ShowSlip();
     cmdPrint[ToggleSlip]->setEnabled(false);
+    OfferAddItems(false);
     ShowTaxOptions();
     ckPopulated->setChecked(office.settings.ckPopulateInvoices == 1);
     ShowCharge();
@@ -377,6 +395,16 @@ void frmPrintSchedules::ShowTaxOptions() {
         optTax[i]->setChecked(board.optTax.buttons[i].isOn);
         optTax[i]->setEnabled(board.optTax.buttons[i].isEnabled);
     }
+}
+
+void frmPrintSchedules::ShowAddItems(bool areShown) {
+    // A small window has room for either.
+    printChoices->setVisible(!areShown);
+}
+
+void frmPrintSchedules::OfferAddItems(bool areOffered) {
+    cmdPrint[AddItems]->setEnabled(areOffered);
+    cmdPrint[AddItems]->setToolTip(areOffered ? QString() : u"Pick a delivery first"_s);
 }
 
 void frmPrintSchedules::ReadTaxOptions() {
@@ -429,6 +457,7 @@ void frmPrintSchedules::fgSchedule_Click(int row, int column) {
     if (!slipNo.isEmpty()) {
         board.LoadSlipPanel(slipNo);
         ShowSlip();
+        OfferAddItems(true);
     }
     if (ScheduleColumn(column) == ScheduleColumn::DeliveryCharge) {
         cmdPrint_ClearCharge();
@@ -453,11 +482,8 @@ void frmPrintSchedules::fgSchedule_KeyPress(ushort key) {
 }
 
 ushort frmPrintSchedules::txtDeliveryCharge_KeyPress(ushort key) {
-    Operator& user = office.machine.user;
     const QString text = txtDeliveryCharge->text();
-    if (key == u'.' && text.contains(u'.'))
-        user.Beep();
-    const ushort passed = FilterNumericKey(key, text, user);
+    const ushort passed = FilterAmountKey(key, text, office.machine.user);
     if (text == ZeroCurrencyText())
         txtDeliveryCharge->clear();
     return passed;
@@ -492,6 +518,11 @@ void frmPrintSchedules::cmdPrint_Click(Button index) {
         cmdPrint_ToggleSlip();
         break;
     case AddItems:
+        ShowAddItems(true);
+        fraAddItems->Open();
+        break;
+    case SaveSlip:
+        cmdPrint_SaveSlip();
         break;
     }
 }
@@ -520,4 +551,15 @@ void frmPrintSchedules::cmdPrint_ToggleSlip() {
     // The panel takes room from the grid; the row it is about stays in sight.
     QCoreApplication::sendPostedEvents(Body(), QEvent::LayoutRequest);
     fgSchedule->scrollTo(fgSchedule->currentIndex());
+}
+
+void frmPrintSchedules::cmdPrint_SaveSlip() {
+    fraSlip->hide();
+    office.addedItems.SaveSlip();
+    cmdPrint[SaveSlip]->setEnabled(office.addedItems.SaveIsEnabled);
+    // The delivery that was marked no longer stands in the grid.
+    cmdPrint[ToggleSlip]->setEnabled(false);
+    OfferAddItems(false);
+    fgSchedule->SetEmptyHint(u"Pick the date or the vehicle to see the deliveries again."_s);
+    lstVehicles->setFocus();
 }

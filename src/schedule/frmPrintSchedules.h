@@ -6,6 +6,7 @@
 #include <array>
 #include <map>
 
+class AddItemsPanel;
 class Card;
 class DatePicker;
 class EntryField;
@@ -41,6 +42,7 @@ public:
         CloseSlip = 5,
         SelectAll = 6,
         DeselectAll = 7,
+        SaveSlip = 8,
         ToggleSlip = 12,
     };
 
@@ -55,6 +57,7 @@ private:
     QWidget* MakeWorkScheduleCard();
     QWidget* MakeScheduleGrid();
     QWidget* MakeSlipPanel();
+    QWidget* MakeAddItemsPanel();
     QWidget* MakeSlipAddresses();
     QWidget* MakeSlipAmounts();
     QWidget* MakeAmount(const QString& heading, const QString& name);
@@ -65,6 +68,8 @@ private:
     void ShowCharge();
     void ShowSlip();
     void ShowTaxOptions();
+    void ShowAddItems(bool areShown);
+    void OfferAddItems(bool areOffered);
     void ReadTaxOptions();
 
     void DTPicker1_Change(QDate date);
@@ -77,6 +82,7 @@ private:
     void cmdPrint_EnterToGrid();
     void cmdPrint_ClearCharge();
     void cmdPrint_ToggleSlip();
+    void cmdPrint_SaveSlip();
 
     Office& office;
     Screens& screens;
@@ -95,6 +101,8 @@ private:
     Grid* fgSchedule = nullptr;
     Grid* fgItems = nullptr;
     Card* fraSlip = nullptr;
+    AddItemsPanel* fraAddItems = nullptr;
+    QWidget* printChoices = nullptr;
     QWidget* fraTax = nullptr;
     QWidget* fraInvoiceNo = nullptr;
     std::map<Button, QPushButton*> cmdPrint;

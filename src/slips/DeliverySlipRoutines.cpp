@@ -223,6 +223,42 @@ void DeliverySlipRoutines::RewriteSlipHeader(const QString& slipNo, bool keep,
     disk.KillFile(temporaryHeader);
 }
 
+void DeliverySlipRoutines::SplitSlip(const QString& oldSlipNo, int entry, const GridModel& items,
+                                     const QString& total) {
+    LoadDeliveryNo();
+    const QString newSlipNo = QString::number(NextSlipNumber);
+    const QString date = Table.Text(SlipLine::Date, entry);
+    const QString recurringText = Table.Text(SlipLine::Recurring, entry);
+    const QString frequency = Table.Text(SlipLine::Frequency, entry);
+    CopyHeaderAsOneTime(oldSlipNo, newSlipNo, entry);
+    WriteSlipItems(items, newSlipNo,
+                   ToInt16(double(items.DataRows()), u"the number of item lines"_s), total);
+    ProcessPastSlip(oldSlipNo, date, recurringText, frequency);
+    UpdateDeliveryCounter();
+}
+
+/// Leaves both files open: the item file's writer, which follows, closes them.
+void DeliverySlipRoutines::CopyHeaderAsOneTime(const QString& oldSlipNo, const QString& newSlipNo,
+                                               int entry) {
+    TextWriter writer(disk, disk.OpenForOutputBeside(HeaderFile(newSlipNo)));
+    for (int number = 1; number <= slipTableLines; ++number) {
+        const auto line = SlipLine(number);
+        if (line == SlipLine::SlipNumber)
+            writer.Plain(newSlipNo);
+        else if (line == SlipLine::Recurring)
+            writer.Plain(BooleanWord(false));
+        else if (line == SlipLine::Reference)
+            writer.Plain(u"Updated "_s + ShortDateText(clock.Today()));
+        else
+            writer.Plain(Table.Text(line, entry));
+    }
+    disk.OpenForInput(HeaderFile(oldSlipNo));
+    TextReader reader(disk);
+    reader.SkipLines(slipTableLines);
+    for (int i = 0; i < slipAddressLines; ++i)
+        writer.Plain(reader.WholeLine());
+}
+
 bool DeliverySlipRoutines::IsSlotFree(QDate date, const QString& time,
                                       const QString& vehicle) const {
     for (int entry = 1; entry <= SlipCount; ++entry) {

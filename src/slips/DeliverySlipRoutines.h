@@ -104,6 +104,13 @@ public:
     /// fifth line. All else stays to the byte.
     void RewriteSlipHeader(const QString& slipNo, bool keep, const QString& newDate,
                            const QString& newTime, const QString& newFifthLine);
+    /// Stores a one-time copy of a slip with other items under the next number, and goes on with
+    /// the old slip as with one whose delivery has passed. The copy's first ten lines, and what
+    /// becomes of the old slip, are told by an entry of the table: it is the row of the board's
+    /// grid, also where grid and table differ in order. The addresses come from the old slip's
+    /// file. `total` is the grand total on the board. A slip that has the next number is replaced.
+    void SplitSlip(const QString& oldSlipNo, int entry, const GridModel& items,
+                   const QString& total);
     /// The answer is True in every case: nothing refuses a second delivery in the same slot.
     bool IsSlotFree(QDate date, const QString& time, const QString& vehicle) const;
 
@@ -125,6 +132,7 @@ private:
                        qint16 count, const QString& total);
     void ReadHeaders(const std::vector<QString>& names);
     void ProcessPastSlips(const std::vector<QString>& names);
+    void CopyHeaderAsOneTime(const QString& oldSlipNo, const QString& newSlipNo, int entry);
     void MoveToNextDate(const QString& slipNo, const QString& date, const QString& frequency);
     void DeleteSlip(const QString& slipNo, const QString& date);
 

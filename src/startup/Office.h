@@ -10,6 +10,7 @@
 #include "products/InventoriedItems.h"
 #include "products/NonInventoriedItems.h"
 #include "products/SalesItemLists.h"
+#include "schedule/AddedItems.h"
 #include "schedule/DeliverySchedulePrinter.h"
 #include "schedule/PrinterRoutines.h"
 #include "schedule/ScheduleBoard.h"
@@ -63,6 +64,7 @@ public:
     InventoriedItems inventoriedItems;
     NonInventoriedItems nonInventoriedItems;
     ScheduleBoard board;
+    AddedItems addedItems;
     PrinterRoutines printer;
     DeliverySchedulePrinter schedulePrinter;
     CustomerFiles customerFiles;

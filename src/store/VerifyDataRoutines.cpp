@@ -31,6 +31,12 @@ ushort FilterNumericKey(ushort key, const QString& fieldText, Operator& user) {
     return key;
 }
 
+ushort FilterAmountKey(ushort key, const QString& fieldText, Operator& user) {
+    if (key == u'.' && fieldText.contains(u'.'))
+        user.Beep();
+    return FilterNumericKey(key, fieldText, user);
+}
+
 ushort FilterDigitKey(ushort key) {
     return key == backspaceKey || IsDigitOrPoint(key) ? key : ushort(0);
 }

@@ -13,6 +13,9 @@ constexpr ushort backspaceKey = 8;
 /// point, which is swallowed in silence.
 ushort FilterNumericKey(ushort key, const QString& fieldText, Operator& user);
 
+/// As FilterNumericKey, but a second point beeps as well.
+ushort FilterAmountKey(ushort key, const QString& fieldText, Operator& user);
+
 /// Digits, points and Backspace; the rest is swallowed in silence.
 ushort FilterDigitKey(ushort key);
 

@@ -404,3 +404,132 @@ TEST_F(InvoiceTotalsTest, SurchargeThatIsNoAmountFailsAboveTheLimitOnly) {
     EXPECT_EQ(captions.lblTax2, u"0.21975"_s);
     EXPECT_EQ(FailureOf([this] { Calculate(2'000'000); }).Kind(), FailureKind::TypeMismatch);
 }
+
+// Items that are added to a slip.
+
+TEST_F(InvoiceTotalsTest, ItemTotalIsSellPriceTimesQuantity) {
+    EXPECT_EQ(ItemTotal(u"$4.10"_s, u"3"_s), u"$12.30"_s);
+    EXPECT_EQ(ItemTotal(u"$2.35"_s, u"1.5"_s), u"$3.53"_s);
+    EXPECT_EQ(ItemTotal(u"$0.00"_s, u"7"_s), u"$0.00"_s);
+    EXPECT_EQ(ItemTotal(u"$1,250.00"_s, u"1000000000"_s), u"$1,250,000,000,000.00"_s);
+}
+
+TEST_F(InvoiceTotalsTest, ItemTotalIsRoundedAsAPersonReadsIt) {
+    // 1.005 lies below its half in binary.
+    EXPECT_EQ(ItemTotal(u"$2.01"_s, u".5"_s), u"$1.01"_s);
+    EXPECT_EQ(ItemTotal(u"$0.01"_s, u".4"_s), u"$0.00"_s);
+}
+
+TEST_F(InvoiceTotalsTest, ItemTotalReadsTheRegionsAmounts) {
+    UseLocale("de_DE.UTF-8");
+    EXPECT_EQ(ItemTotal(u"1.250,50\u00a0\u20ac"_s, u"2,5"_s), u"3.126,25\u00a0\u20ac"_s);
+}
+
+TEST_F(InvoiceTotalsTest, ItemTotalOfTextThatIsNoNumberIsATypeMismatch) {
+    EXPECT_EQ(FailureOf([] { ItemTotal(u"free"_s, u"3"_s); }).Sentence(),
+              u"The text \"free\" is not a number (the sell price)."_s);
+    EXPECT_EQ(FailureOf([] { ItemTotal(u"$4.10"_s, u"dozen"_s); }).Sentence(),
+              u"The text \"dozen\" is not a number (the quantity)."_s);
+    EXPECT_EQ(FailureOf([] { ItemTotal(u"$4.10"_s, {}); }).Kind(), FailureKind::TypeMismatch);
+}
+
+/// Item lines of which only the totals are looked at.
+class RecalcSlipTotalsTest : public InvoiceTotalsTest {
+protected:
+    void PutTotals(const QStringList& totals) {
+        fgItems.SetRows(int(totals.size()) + 1);
+        for (int row = 1; row <= totals.size(); ++row)
+            fgItems.SetText(row, 3, totals[row - 1]);
+    }
+    void Recalculate(const QStringList& totals) {
+        PutTotals(totals);
+        RecalcSlipTotals(fgItems, settings, options, captions);
+    }
+    FailureKind KindOf(const QStringList& totals) {
+        return FailureOf([&] { Recalculate(totals); }).Kind();
+    }
+
+    GridModel fgItems{{u"Units"_s, u"Product Description"_s, u"Unit Cost"_s, u"Item Total"_s}};
+};
+
+TEST_F(RecalcSlipTotalsTest, SubTotalIsTheSumOfTheItemTotals) {
+    Recalculate({u"$12.30"_s, u"$2.35"_s});
+    EXPECT_EQ(captions.lblTotal, u"$14.65"_s);
+    Recalculate({u"$1,250.50"_s, u"2"_s, u"($3.00)"_s});
+    EXPECT_EQ(captions.lblTotal, u"$1,249.50"_s);
+    Recalculate({});
+    EXPECT_EQ(captions.lblTotal, u"$0.00"_s);
+}
+
+TEST_F(RecalcSlipTotalsTest, TaxesFollowAndTheChargeIsLeftOutOfTheGrandTotal) {
+    captions.fraTax = false;
+    Recalculate({u"$12.30"_s, u"$2.35"_s});
+    EXPECT_TRUE(captions.fraTax);
+    EXPECT_EQ(captions.lblTaxHeading1, u"Sales Tax"_s);
+    EXPECT_EQ(captions.lblTax1, u"$0.92"_s);
+    EXPECT_EQ(captions.lblTax2, u"$0.22"_s);
+    EXPECT_EQ(captions.lblGrandtotal, u"$15.79"_s);
+    EXPECT_EQ(captions.lblCharge, u"$5.00"_s);
+}
+
+TEST_F(RecalcSlipTotalsTest, OneTaxIsEnoughForBothToBeComputed) {
+    for (qint16* apply : {&settings.ckApply1stTax, &settings.ckApply2ndTax}) {
+        settings.ckApply1stTax = 0;
+        settings.ckApply2ndTax = 0;
+        *apply = 1;
+        captions.fraTax = false;
+        Recalculate({u"$14.65"_s});
+        EXPECT_TRUE(captions.fraTax);
+        EXPECT_EQ(captions.lblGrandtotal, u"$15.79"_s);
+    }
+}
+
+TEST_F(RecalcSlipTotalsTest, WithoutATaxNothingButTheSubTotalChanges) {
+    settings.ckApply1stTax = 0;
+    settings.ckApply2ndTax = 0;
+    captions.lblTax1 = u"$1.11"_s;
+    captions.lblGrandtotal = u"$9.99"_s;
+    for (const bool isShown : {true, false}) {
+        captions.fraTax = isShown;
+        Recalculate({u"$14.65"_s});
+        EXPECT_EQ(captions.lblTotal, u"$14.65"_s);
+        EXPECT_EQ(captions.fraTax, isShown);
+        EXPECT_EQ(captions.lblTax1, u"$1.11"_s);
+        EXPECT_EQ(captions.lblGrandtotal, u"$9.99"_s);
+    }
+}
+
+TEST_F(RecalcSlipTotalsTest, FourDecimalsAreSummedAndTheTaxIsOfTheRoundedSum) {
+    settings.cboRate1 = u"100"_s;
+    Recalculate({u"0.0024"_s, u"0.0026"_s});
+    EXPECT_EQ(captions.lblTotal, u"$0.01"_s);
+    EXPECT_EQ(captions.lblTax1, u"$0.01"_s);
+}
+
+TEST_F(RecalcSlipTotalsTest, SumReachesTheLastAmountAndFailsBeyondIt) {
+    settings.ckApply1stTax = 0;
+    settings.ckApply2ndTax = 0;
+    Recalculate({u"$922,337,203,685,477.00"_s, u"0.5807"_s});
+    EXPECT_EQ(captions.lblTotal, u"$922,337,203,685,477.58"_s);
+    EXPECT_EQ(KindOf({u"$922,337,203,685,477.00"_s, u"0.5808"_s}), FailureKind::Overflow);
+    EXPECT_EQ(KindOf({u"$922,337,203,685,478.00"_s}), FailureKind::Overflow);
+    EXPECT_EQ(captions.lblTotal, u"$922,337,203,685,477.58"_s);
+}
+
+TEST_F(RecalcSlipTotalsTest, TaxThatTakesTheGrandTotalBeyondTheLastAmountIsAnOverflow) {
+    EXPECT_EQ(KindOf({u"$922,337,203,685,477.00"_s}), FailureKind::Overflow);
+}
+
+TEST_F(RecalcSlipTotalsTest, CellThatIsNoAmountIsATypeMismatch) {
+    for (const QString& total : {QString(), u"free"_s, u"4.10 each"_s, u"1.2.3"_s})
+        EXPECT_EQ(KindOf({u"$12.30"_s, total}), FailureKind::TypeMismatch) << total.toStdString();
+}
+
+TEST_F(RecalcSlipTotalsTest, AmountsAreInTheRegionsForm) {
+    UseLocale("de_DE.UTF-8");
+    Recalculate({u"1.250,50\u00a0\u20ac"_s, u"2,35\u00a0\u20ac"_s});
+    EXPECT_EQ(captions.lblTotal, u"1.252,85\u00a0\u20ac"_s);
+    EXPECT_EQ(captions.lblTax1, u"78,30\u00a0\u20ac"_s);
+    EXPECT_EQ(captions.lblTax2, u"18,79\u00a0\u20ac"_s);
+    EXPECT_EQ(captions.lblGrandtotal, u"1.349,94\u00a0\u20ac"_s);
+}

@@ -177,3 +177,19 @@ TEST_F(VerifyDataRoutinesTest, InvalidDateIsTold) {
     user.ExpectMessage(u"Your Calendar Selection is Invalid"_s);
     DateIsInvalid(user);
 }
+
+TEST_F(VerifyDataRoutinesTest, AmountKeyIsANumericKeyThatBeepsForASecondPoint) {
+    const auto filter = [this](char16_t key, const QString& fieldText) {
+        return FilterAmountKey(key, fieldText, user);
+    };
+    EXPECT_EQ(filter(u'5', u"1"_s), u'5');
+    EXPECT_EQ(filter(u'.', u"1"_s), u'.');
+    EXPECT_EQ(filter(8, u"1.5"_s), 8);
+    EXPECT_EQ(user.Beeps, 0);
+    EXPECT_EQ(filter(u'.', u"1.5"_s), 0);
+    EXPECT_EQ(user.Beeps, 1);
+    EXPECT_EQ(filter(u'0', QString()), 0);
+    EXPECT_EQ(user.Beeps, 2);
+    EXPECT_EQ(filter(u'x', u"1"_s), 0);
+    EXPECT_EQ(user.Beeps, 3);
+}
