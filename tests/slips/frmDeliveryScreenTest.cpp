@@ -242,6 +242,52 @@ TEST_F(DeliveryScreen, ScreenIsWholeOnASmallDesktop) {
     EXPECT_LE(body->width(), body->parentWidget()->width());
 }
 
+TEST_F(DeliveryScreen, TabFollowsTheEye) {
+    folder.Write(templateFiles + u"Week.txt"_s, {});
+    Open();
+    const auto walk = [this](const QStringList& order) {
+        Find<QWidget>(delivery, order.front())->setFocus();
+        for (const QString& name : order) {
+            EXPECT_EQ(Focused(), name);
+            PressFocused(Qt::Key_Tab);
+        }
+    };
+    ClickOn(u"optRecurring(0)"_s);
+    walk({u"txtShipto(0)"_s,
+          u"txtShipto(1)"_s,
+          u"txtShipto(2)"_s,
+          u"txtShipto(3)"_s,
+          u"txtShipto(4)"_s,
+          u"txtShipto(5)"_s,
+          u"txtShipto(6)"_s,
+          u"cmdShipToAddress(0)"_s,
+          u"cmdShipToAddress(1)"_s,
+          u"txtDeliveryNo"_s,
+          u"txtReference"_s,
+          u"optRecurring(0)"_s,
+          u"lstFrequency"_s,
+          u"DTShip"_s,
+          u"lstTime"_s,
+          u"lstVehicles"_s,
+          u"ckCapacity"_s,
+          u"ckProduct"_s,
+          u"flstDeliveryTemplates"_s,
+          u"cmdTemplate(0)"_s,
+          u"cmdTemplate(1)"_s,
+          u"cmdInvoice(1)"_s,
+          u"cmdInvoice(4)"_s,
+          u"cmdInvoice(2)"_s,
+          u"cmdInvoice(0)"_s});
+    user.ExpectMessage(u" The 1st Delivery will be made on 3/9/2026\nand will re-occurr Weekly"_s);
+    ClickOn(u"cmdInvoice(0)"_s);
+    walk({u"lstItems"_s, u"txtUnits"_s, u"cmdPost(1)"_s, u"fgDelivery"_s,
+          u"flstDeliveryTemplates"_s, u"cmdTemplate(0)"_s, u"cmdTemplate(1)"_s, u"cmdExit"_s,
+          u"cmdTemplate(2)"_s, u"cmdRedo"_s, u"cmdStore"_s});
+    Menu(u"mnuNonInvoiced"_s)->trigger();
+    walk({u"cboNonPricedDescription"_s, u"txtNonPriced"_s, u"cmdPost(0)"_s, u"cmdPost(2)"_s,
+          u"fgDelivery"_s});
+}
+
 // A new slip.
 
 TEST_F(DeliveryScreen, OpensOnTheSetupOfANewSlipForTheCustomer) {
