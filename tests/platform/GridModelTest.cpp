@@ -87,3 +87,17 @@ TEST(GridModel, FindRowGivesTheFirstDataRowOrNone) {
     EXPECT_EQ(grid.FindRow(1, u"x"_s), 0);
     EXPECT_EQ(FailureOf([&] { (void)grid.FindRow(2, {}); }).Kind(), FailureKind::Subscript);
 }
+
+TEST(GridModel, ColumnAndHeadingLineUpAsTold) {
+    GridModel grid({u"A"_s, u"B"_s, u"C"_s});
+    grid.SetRows(2);
+    grid.AlignRight(1);
+    grid.AlignCentre(2);
+    const Qt::AlignmentFlag expected[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
+    for (int column = 0; column < 3; ++column) {
+        const int alignment = expected[column] | Qt::AlignVCenter;
+        EXPECT_EQ(grid.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt(),
+                  alignment);
+        EXPECT_EQ(grid.data(grid.index(0, column), Qt::TextAlignmentRole).toInt(), alignment);
+    }
+}
