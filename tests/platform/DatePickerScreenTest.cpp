@@ -122,12 +122,3 @@ TEST_F(DatePickerTest, CalendarTellsOfItsClosingOnlyWithoutAPick) {
     EXPECT_EQ(told.size(), 1);
     EXPECT_EQ(dismissals, 1);
 }
-
-TEST_F(DatePickerTest, CalendarOffersNoDateBeforeTheLeastAndATypedOneIsToldAllTheSame) {
-    picker.SetLeastDate({2026, 11, 10});
-    QTest::keyClick(&picker, Qt::Key_F4);
-    EXPECT_EQ(picker.findChild<QCalendarWidget*>(u"calendar"_s)->minimumDate(),
-              QDate(2026, 11, 10));
-    Type(u"11/9/2026"_s);
-    EXPECT_EQ(told, QList<QDate>{QDate(2026, 11, 9)});
-}
