@@ -98,14 +98,14 @@ QString InventoryPrinter::JobName(InventoryKind kind) const {
 }
 
 void InventoryPrinter::PrintReport() {
-    printer.PreparePrinter(Orientation::Landscape, settings.ckColor != 0);
+    printer.PreparePaper(Orientation::Landscape, settings.ckColor != 0);
     PrintPageHeader(InventoryKind::Report, {});
     PrintRows(InventoryKind::Report, {}, [this](int row) { PrintReportLine(row); });
     surface.EndJob();
 }
 
 void InventoryPrinter::PrintTallySheets() {
-    printer.PreparePrinter(Orientation::Portrait, settings.ckColor != 0);
+    printer.PreparePaper(Orientation::Portrait, settings.ckColor != 0);
     for (const QString& location : locations.txtTally) {
         if (!location.isEmpty())
             PrintTallySheet(location);
