@@ -33,16 +33,24 @@ std::optional<char> ByteOf(QChar character) {
 
 } // namespace
 
-QByteArray ToCodePage(QStringView text) {
-    QByteArray bytes;
-    bytes.reserve(text.size());
+void AppendInCodePage(QByteArray& bytes, QStringView text) {
+    const qsizetype start = bytes.size();
+    bytes.resize(start + text.size());
+    char* const first = bytes.data();
+    char* end = first + start;
     for (qsizetype i = 0; i < text.size(); ++i) {
         // The two halves of a rare character are one character.
         const bool isSecondHalf =
             i > 0 && text[i].isLowSurrogate() && text[i - 1].isHighSurrogate();
         if (!isSecondHalf)
-            bytes += ByteOf(text[i]).value_or('?');
+            *end++ = ByteOf(text[i]).value_or('?');
     }
+    bytes.truncate(end - first);
+}
+
+QByteArray ToCodePage(QStringView text) {
+    QByteArray bytes;
+    AppendInCodePage(bytes, text);
     return bytes;
 }
 

@@ -8,5 +8,7 @@
 
 /// A character that the code page lacks becomes "?".
 QByteArray ToCodePage(QStringView text);
+/// The same, behind what `bytes` holds: for texts of many lines.
+void AppendInCodePage(QByteArray& bytes, QStringView text);
 QString FromCodePage(QByteArrayView bytes);
 bool IsInCodePage(QStringView text);
