@@ -48,9 +48,15 @@ size_t EncodeInto(char* bytes, size_t room, QStringView text) {
     return size_t(next - bytes);
 }
 
+void AppendInCodePage(QByteArray& bytes, QStringView text) {
+    const qsizetype start = bytes.size();
+    bytes.resize(start + text.size());
+    bytes.truncate(start + qsizetype(EncodeInto(bytes.data() + start, size_t(text.size()), text)));
+}
+
 QByteArray ToCodePage(QStringView text) {
-    QByteArray bytes(text.size(), Qt::Uninitialized);
-    bytes.truncate(qsizetype(EncodeInto(bytes.data(), size_t(bytes.size()), text)));
+    QByteArray bytes;
+    AppendInCodePage(bytes, text);
     return bytes;
 }
 

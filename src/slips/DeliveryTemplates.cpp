@@ -105,12 +105,13 @@ qint16 DeliveryTemplates::LoadTemplate(GridModel& fgDelivery) {
     const QString where = u"a line of "_s + Shown(path);
     const qint16 count = disk.RecordCount(path, sizeof(TemplateRecord));
     disk.OpenRandom(path, sizeof(TemplateRecord));
+    const auto lines = ReadRecords<TemplateRecord>(disk, disk.DiskFile, count);
+    disk.CloseAllFiles();
     const GridModel::Refill refill(fgDelivery);
     constexpr int headingAndEmptyRow = 2;
     fgDelivery.SetRows(count + headingAndEmptyRow);
     for (int row = 1; row <= count; ++row)
-        WriteRow(fgDelivery, row, ReadRecord<TemplateRecord>(disk, disk.DiskFile, row), where);
-    disk.CloseAllFiles();
+        WriteRow(fgDelivery, row, lines[size_t(row) - 1], where);
     return count;
 }
 
