@@ -5,6 +5,8 @@
 MemoBox::MemoBox(QWidget* parent) : QPlainTextEdit(parent) {
     // The Tab key goes on to the next control, as everywhere else.
     setTabChangesFocus(true);
+    // It takes the room that its place has to give, rather than the many lines it would like.
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
 }
 
 QString MemoBox::Text() const {

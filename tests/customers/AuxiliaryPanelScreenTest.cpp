@@ -239,6 +239,17 @@ TEST_F(AuxiliaryScreen, MegabyteOfTextIsShownAndSaved) {
     EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 0)), lines + "\r\n");
 }
 
+TEST_F(AuxiliaryScreen, WindowFitsTheScreenWithoutScrolling) {
+    OpenThree();
+    screens.Find(screen)->resize(1024, 768);
+    Item(u"mnuAux"_s)->trigger();
+    QCoreApplication::processEvents();
+    for (const QString& name : {u"txtAux(0)"_s, u"txtAux(5)"_s, u"cmdSaveAux(2)"_s, u"cmdNav(9)"_s})
+        EXPECT_EQ(Control(name)->visibleRegion().boundingRect(), Control(name)->rect())
+            << name.toStdString();
+    EXPECT_EQ(screens.Find(screen)->size(), QSize(1024, 768));
+}
+
 TEST_F(AuxiliaryScreen, LongNameDoesNotWidenTheScreen) {
     WriteCustomers({SampleCustomer{.businessName = QByteArray(45, 'W')}});
     Open(2);
