@@ -2,6 +2,7 @@
 
 #include "customers/AccountBox.h"
 #include "customers/AutoAdvancePanel.h"
+#include "customers/AuxiliaryPanel.h"
 #include "customers/CustomerSearchPanel.h"
 #include "customers/CustomersFoundPanel.h"
 #include "platform/EntryField.h"
@@ -84,7 +85,7 @@ frmCustomer::frmCustomer(Office& theOffice, Screens& allScreens)
     : Screen(u"frmCustomer"_s, u"Customer Selection       "_s, u"TesselDelivery"_s,
              u"TesselCycleInvoicer"_s),
       office(theOffice), screens(allScreens), customers(theOffice.customers),
-      search(theOffice.customerSearch) {
+      search(theOffice.customerSearch), auxiliary(theOffice.auxiliaryWindow) {
     MakeMenus();
     auto* side = new QVBoxLayout;
     side->setSpacing(cardGap);
@@ -93,10 +94,11 @@ frmCustomer::frmCustomer(Office& theOffice, Screens& allScreens)
     side->addWidget(MakeMoveCard());
     side->addStretch(1);
     auto* main = new QVBoxLayout;
-    // One of the three is in front. The list takes all the room there is.
+    // One of them is in front. The list and the auxiliary data take all the room there is.
     main->addWidget(account);
     main->addWidget(MakeSearch());
     main->addWidget(MakeFound(), longListStretch);
+    main->addWidget(MakeAux(), longListStretch);
     main->addStretch(1);
     auto* columns = new QHBoxLayout(Body());
     columns->setContentsMargins(bodySide, bodyTop, bodySide, bodyTop);
@@ -112,6 +114,7 @@ frmCustomer::frmCustomer(Office& theOffice, Screens& allScreens)
 
     customers.Load();
     search.Load();
+    auxiliary.Load();
     cboStates->addItems(customers.cboStates);
     ShowFields();
 }
@@ -141,7 +144,8 @@ void frmCustomer::MakeMenus() {
                         [this] { customers.DeleteCustomer(); });
     menu->addSeparator();
     AddItem(menu, u"mnuPrint"_s, u"Print Customers"_s, [this] { search.mnuPrint_Click(); });
-    AddItem(menu, u"mnuAux"_s, u"Toggle Data Window"_s, {});
+    mnuAux =
+        AddItem(menu, u"mnuAux"_s, u"Toggle Data Window"_s, [this] { auxiliary.mnuAux_Click(); });
 }
 
 QPushButton* frmCustomer::MakeButton(const QString& name, const QString& caption,
@@ -376,6 +380,17 @@ QWidget* frmCustomer::MakeFound() {
     return fraCustomersFound;
 }
 
+QWidget* frmCustomer::MakeAux() {
+    fraAux = new AuxiliaryPanel(office.auxiliaryData, auxiliary, customers.fraAux);
+    connect(fraAux, &AuxiliaryPanel::ButtonClicked, this,
+            [this](AuxButton index) { Run([this, index] { auxiliary.cmdSaveAux_Click(index); }); });
+    connect(fraAux, &AuxiliaryPanel::BoxDoubleClicked, this,
+            [this](int box) { Run([this, box] { auxiliary.txtAux_DblClick(box); }); });
+    connect(fraAux, &AuxiliaryPanel::HeadingDoubleClicked, this,
+            [this](int box) { Run([this, box] { auxiliary.txtHeading_DblClick(box); }); });
+    return fraAux;
+}
+
 /// From the top of the record down, then the buttons beside it, then the foot.
 void frmCustomer::SetTabOrder() {
     QList<QWidget*> order = {cmdAcctType,
@@ -396,7 +411,7 @@ void frmCustomer::SetTabOrder() {
                              Text(CustomerText::Phone),
                              Text(CustomerText::Cell),
                              Text(CustomerText::Email)};
-    order << fraSearch->TabStops() << fraCustomersFound->TabStops();
+    order << fraSearch->TabStops() << fraCustomersFound->TabStops() << fraAux->TabStops();
     for (const auto& [index, button] : Command1)
         order += button;
     for (const Move move : {Move::First, Move::Previous, Move::Next, Move::Last, Move::Quarter,
@@ -443,6 +458,7 @@ void frmCustomer::ReadFields() {
     customers.Fields.txtAdd3 = txtAdd3->text();
     customers.Fields.txtAdd4 = txtAdd4->text();
     fraSearch->Read();
+    fraAux->Read();
 }
 
 void frmCustomer::ShowFields() {
@@ -493,9 +509,12 @@ void frmCustomer::ShowWhere() {
 void frmCustomer::ShowFront() {
     fraSearch->Show();
     fraCustomersFound->Show();
-    account->setVisible(!customers.fraSearchVisible && !customers.fraCustomersFoundVisible);
+    fraAux->Show();
+    account->setVisible(!customers.fraSearchVisible && !customers.fraCustomersFoundVisible &&
+                        !customers.fraAuxVisible);
     fraSearch->setVisible(customers.fraSearchVisible);
     fraCustomersFound->setVisible(customers.fraCustomersFoundVisible);
+    fraAux->setVisible(customers.fraAuxVisible);
     cmdAutoAdvance->setText(customers.Advance.Caption());
     autoAdvancePanel->Show();
 }
@@ -508,6 +527,7 @@ void frmCustomer::ShowEnabled() {
     cmdCustomer[CancelAddNew]->setVisible(customers.IsCancelVisible);
     mnuAdd->setEnabled(customers.mnuAddEnabled);
     mnuDelete->setEnabled(customers.mnuDeleteEnabled);
+    mnuAux->setEnabled(customers.mnuAuxEnabled);
 }
 
 void frmCustomer::MoveFocus() {
@@ -537,6 +557,9 @@ void frmCustomer::MoveFocus() {
         break;
     case FocusOn::FoundGrid:
         fraCustomersFound->FocusGrid();
+        break;
+    case FocusOn::AuxText:
+        fraAux->FocusText();
         break;
     }
 }
