@@ -179,14 +179,21 @@ void DeliverySlipRoutines::WriteItemFile(const QString& name, const GridModel& g
 void DeliverySlipRoutines::StoreSlip(const SlipHeader& header, const GridModel& grid, qint16 count,
                                      const QString& total) {
     const QString number = TrimBlanks(header.table[0]);
-    try {
+    ReplaceSlip(number, [&] {
         WriteHeaderFile(temporaryHeader, header);
         WriteItemFile(temporaryItems, grid, number, count, total);
-        disk.KillFile(HeaderFile(number));
-        disk.KillFile(ItemFile(number));
-        disk.RenameDataFile(temporaryItems, ItemFile(number));
+    });
+}
+
+void DeliverySlipRoutines::ReplaceSlip(const QString& number,
+                                       const std::function<void()>& writeAside) {
+    try {
+        writeAside();
         // The header comes last: the folder of headers is the list of slips, and an item file that
         // belongs to none of them does no harm.
+        disk.KillFile(ItemFile(number));
+        disk.RenameDataFile(temporaryItems, ItemFile(number));
+        disk.KillFile(HeaderFile(number));
         disk.RenameDataFile(temporaryHeader, HeaderFile(number));
     } catch (const RuntimeFailure&) {
         PassOver([&] { disk.CloseAllFiles(); });
@@ -230,9 +237,11 @@ void DeliverySlipRoutines::SplitSlip(const QString& oldSlipNo, int entry, const 
     const QString date = Table.Text(SlipLine::Date, entry);
     const QString recurringText = Table.Text(SlipLine::Recurring, entry);
     const QString frequency = Table.Text(SlipLine::Frequency, entry);
-    CopyHeaderAsOneTime(oldSlipNo, newSlipNo, entry);
-    WriteSlipItems(items, newSlipNo,
-                   ToInt16(double(items.DataRows()), u"the number of item lines"_s), total);
+    const qint16 count = ToInt16(double(items.DataRows()), u"the number of item lines"_s);
+    ReplaceSlip(newSlipNo, [&] {
+        CopyHeaderAsOneTime(oldSlipNo, newSlipNo, entry);
+        WriteItemFile(temporaryItems, items, newSlipNo, count, total);
+    });
     ProcessPastSlip(oldSlipNo, date, recurringText, frequency);
     UpdateDeliveryCounter();
 }
@@ -240,7 +249,7 @@ void DeliverySlipRoutines::SplitSlip(const QString& oldSlipNo, int entry, const 
 /// Leaves both files open: the item file's writer, which follows, closes them.
 void DeliverySlipRoutines::CopyHeaderAsOneTime(const QString& oldSlipNo, const QString& newSlipNo,
                                                int entry) {
-    TextWriter writer(disk, disk.OpenForOutputBeside(HeaderFile(newSlipNo)));
+    TextWriter writer(disk, disk.OpenForOutputBeside(temporaryHeader));
     for (int number = 1; number <= slipTableLines; ++number) {
         const auto line = SlipLine(number);
         if (line == SlipLine::SlipNumber)

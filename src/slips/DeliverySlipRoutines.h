@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 #include <vector>
 
 /// Header lines of a slip file that the slip table holds, numbered as in the file.
@@ -109,6 +110,7 @@ public:
     /// becomes of the old slip, are told by an entry of the table: it is the row of the board's
     /// grid, also where grid and table differ in order. The addresses come from the old slip's
     /// file. `total` is the grand total on the board. A slip that has the next number is replaced.
+    /// A failure before both files of the copy are whole leaves no part of it behind.
     void SplitSlip(const QString& oldSlipNo, int entry, const GridModel& items,
                    const QString& total);
     /// The answer is True in every case: nothing refuses a second delivery in the same slot.
@@ -130,6 +132,9 @@ private:
     void WriteHeaderFile(const QString& name, const SlipHeader& header);
     void WriteItemFile(const QString& name, const GridModel& grid, const QString& number,
                        qint16 count, const QString& total);
+    /// `writeAside` writes both files of a slip under temporary names; they take the places of
+    /// those of the slip of that number once they are whole.
+    void ReplaceSlip(const QString& number, const std::function<void()>& writeAside);
     void ReadHeaders(const std::vector<QString>& names);
     void ProcessPastSlips(const std::vector<QString>& names);
     void CopyHeaderAsOneTime(const QString& oldSlipNo, const QString& newSlipNo, int entry);

@@ -465,6 +465,19 @@ TEST_F(DeliverySlipRoutinesTest, UnwritableFolderOfEitherFileChangesNothing) {
     }
 }
 
+TEST_F(DeliverySlipRoutinesTest, ItemFileThatCantBeReplacedLeavesTheOldSlipWhole) {
+    PutSlip("20260014", "3/12/2026");
+    folder.MakeFolder(deliveryItems + u"20260014.txt"_s);
+    const QStringList before = folder.Everything();
+    const RuntimeFailure failure =
+        FailureOf([&] { slips.StoreSlip(CornerGrocery(), grid, 0, u"$9.00"_s); });
+    EXPECT_EQ(failure.Sentence(),
+              u"Deleting TesselDelivery/DeliveryItems/20260014.txt failed: Is a directory."_s);
+    EXPECT_EQ(folder.Everything(), before);
+    EXPECT_EQ(folder.Read(deliveries + u"20260014.txt"_s),
+              SlipHeaderBytes("20260014", "3/12/2026"));
+}
+
 // Loading the table.
 
 TEST_F(DeliverySlipRoutinesTest, EmptyFolderGivesCountZeroAndKeepsTheOldTexts) {
