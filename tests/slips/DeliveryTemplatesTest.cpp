@@ -470,6 +470,18 @@ TEST_F(DeliveryTemplatesTest, LineTotalBeyondAnAmountIsAnOverflow) {
     EXPECT_EQ(FailureOf([this] { LoadFile(u"Week.txt"_s); }).Kind(), FailureKind::Overflow);
 }
 
+TEST_F(DeliveryTemplatesTest, FileThatHasGoneSinceItWasListedStopsTheLoadAndIsNotMade) {
+    Put(u"Week.txt"_s, Line("3", "Gravel", "4.10"));
+    templates.RefreshList();
+    templates.SelectTemplate(0);
+    folder.Remove(templatesFolder + u"Week.txt"_s);
+    const RuntimeFailure failure = FailureOf([this] { templates.LoadTemplate(fgDelivery); });
+    EXPECT_EQ(failure.Kind(), FailureKind::FileNotFound);
+    EXPECT_EQ(failure.Sentence(), u"Opening Templates/Deliveries/Week.txt for reading failed: No "
+                                  "such file or directory."_s);
+    EXPECT_FALSE(folder.Has(templatesFolder + u"Week.txt"_s));
+}
+
 TEST_F(DeliveryTemplatesTest, FileThatCantBeReadStopsTheLoad) {
     DropRootRights(folder);
     Put(u"Week.txt"_s, Line("3", "Gravel", "4.10"));
