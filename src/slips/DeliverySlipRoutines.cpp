@@ -7,6 +7,7 @@
 
 #include <QStringBuilder>
 
+#include <cmath>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -29,7 +30,8 @@ QString DateLineOf(const QString& fileName) {
 qint32 CounterValue(const QString& text) {
     bool isNumber = false;
     const double number = text.trimmed().toDouble(&isNumber);
-    return isNumber ? ToInt32(number, u"reading NQDeliveryNo.txt"_s) : 0;
+    // The conversion also takes the words "inf" and "nan", which are no numbers here.
+    return isNumber && std::isfinite(number) ? ToInt32(number, u"reading NQDeliveryNo.txt"_s) : 0;
 }
 
 } // namespace

@@ -92,7 +92,8 @@ TEST_F(DeliverySlipRoutinesTest, LaterYearDoesNotRestartTheSeries) {
 TEST_F(DeliverySlipRoutinesTest, CounterHoldingZeroOrTextRestartsFromTheYearsFirstNumber) {
     for (const QByteArray& bytes :
          {QByteArray("0\r\n"), QByteArray("\"none\"\r\n"), QByteArray("abc\r\n"),
-          QByteArray("\r\n"), QByteArray("\"\"\r\n"), QByteArray("#TRUE#\r\n")}) {
+          QByteArray("\r\n"), QByteArray("\"\"\r\n"), QByteArray("#TRUE#\r\n"),
+          QByteArray("inf\r\n"), QByteArray("-inf\r\n"), QByteArray("nan\r\n")}) {
         folder.Write(counterFile, bytes);
         slips.LoadDeliveryNo();
         EXPECT_EQ(slips.NextSlipNumber, 20260001) << bytes.toStdString();
