@@ -92,6 +92,19 @@ protected:
         QTest::mouseClick(List(list)->viewport(), Qt::LeftButton, Qt::NoModifier, entry.center());
     }
     void PressFocused(Qt::Key key) { Press(screens.Find(delivery)->focusWidget(), key); }
+    /// Alt and a letter of the menu bar.
+    void PressMenu(Qt::Key letter) {
+        QTest::keyClick(screens.Find(delivery)->focusWidget(), letter, Qt::AltModifier);
+    }
+    /// Alt alone leads into the menu bar, the arrow key to the entry, Enter takes it.
+    void WalkMenuBarTo(int place) {
+        QTest::keyClick(screens.Find(delivery)->focusWidget(), Qt::Key_Alt);
+        QMenuBar* bar = screens.Find(delivery)->menuBar();
+        ASSERT_TRUE(bar->hasFocus());
+        for (int i = 0; i < place; ++i)
+            QTest::keyClick(bar, Qt::Key_Right);
+        QTest::keyClick(bar, Qt::Key_Return);
+    }
     void TypeFocused(const QString& text) { Type(screens.Find(delivery)->focusWidget(), text); }
     void Enter(const QString& field, const QString& text) {
         Text(field)->setFocus();
@@ -936,6 +949,92 @@ TEST_F(DeliveryScreen, MenusShowTheirPanels) {
     Menu(u"mnuNonInvoiced"_s)->trigger();
     EXPECT_EQ(Panels(), QStringList{u"fraNonPriced"_s});
     EXPECT_TRUE(IsVisible(u"cmdStore"_s) && IsVisible(u"cmdExit"_s));
+}
+
+TEST_F(DeliveryScreen, MenuLeavesAnEmptyNumberAsAButtonDoes) {
+    OpenItems();
+    Post(2, u"2"_s);
+    PressMenu(Qt::Key_D);
+    ClickOn(u"cmdInvoice(4)"_s);
+    ExpectReloaded();
+    PressMenu(Qt::Key_I);
+    EXPECT_EQ(Panels(), QStringList{u"fraItems"_s});
+    ClickOn(u"cmdStore"_s);
+    EXPECT_TRUE(folder.Has(headers + u"20260001.txt"_s));
+    EXPECT_FALSE(folder.Has(headers + u".txt"_s));
+}
+
+TEST_F(DeliveryScreen, MenuDoesNotActWhenTheUnitsAreNoNumber) {
+    OpenItems();
+    for (const Qt::Key letter : {Qt::Key_D, Qt::Key_A, Qt::Key_N}) {
+        Enter(u"txtUnits"_s, u"."_s);
+        PressMenu(letter);
+        EXPECT_EQ(Panels(), QStringList{u"fraItems"_s});
+        EXPECT_EQ(Shown(u"txtUnits"_s), u"0"_s);
+        EXPECT_EQ(Focused(), u"txtUnits"_s);
+    }
+    EXPECT_EQ(user.Beeps, 3);
+}
+
+TEST_F(DeliveryScreen, MenuPreparesAReferenceThatIsLeftEmpty) {
+    Open();
+    Enter(u"txtReference"_s, u"PO"_s);
+    Text(u"txtReference"_s)->clear();
+    PressMenu(Qt::Key_I);
+    PressMenu(Qt::Key_D);
+    EXPECT_EQ(Shown(u"txtReference"_s), u"Prepared 3/9/2026"_s);
+}
+
+TEST_F(DeliveryScreen, MenuTakesADateThatIsTyped) {
+    Open();
+    for (const auto& [typed, date] :
+         {std::pair(u"3/12/2026"_s, QDate(2026, 3, 12)), {u"3/14/2026"_s, QDate(2026, 3, 16)}}) {
+        Date()->setFocus();
+        Date()->selectAll();
+        TypeFocused(typed);
+        PressMenu(Qt::Key_I);
+        EXPECT_EQ(office.deliveryForm.DTShip, date);
+        PressMenu(Qt::Key_D);
+        EXPECT_EQ(Date()->Date(), date);
+    }
+}
+
+TEST_F(DeliveryScreen, MenuBarWalkedByKeysLeavesTheFieldAsItsLettersDo) {
+    OpenItems();
+    Enter(u"txtUnits"_s, u"."_s);
+    WalkMenuBarTo(2);
+    EXPECT_EQ(Panels(), QStringList{u"fraItems"_s});
+    EXPECT_EQ(Shown(u"txtUnits"_s), u"0"_s);
+    EXPECT_EQ(Focused(), u"txtUnits"_s);
+    EXPECT_EQ(user.Beeps, 1);
+    WalkMenuBarTo(1);
+    EXPECT_EQ(Panels(), QStringList{u"fraSetup"_s});
+    EXPECT_EQ(Focused(), u"txtShipto(6)"_s);
+}
+
+TEST_F(DeliveryScreen, ClickOnTheMenuBarLeavesTheField) {
+    Open();
+    ClickOn(u"cmdInvoice(4)"_s);
+    ExpectReloaded();
+    QMenuBar* bar = screens.Find(delivery)->menuBar();
+    QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier,
+                      bar->actionGeometry(Menu(u"mnuItems"_s)).center());
+    EXPECT_EQ(Panels(), QStringList{u"fraItems"_s});
+    EXPECT_EQ(office.deliveryForm.txtDeliveryNo, u"20260001"_s);
+}
+
+TEST_F(DeliveryScreen, MenuThatMovesNoFocusGivesItBackOrOn) {
+    OpenItems();
+    grid->setFocus();
+    PressMenu(Qt::Key_A);
+    EXPECT_EQ(Panels(), QStringList{u"fraCustomer"_s});
+    EXPECT_EQ(Focused(), u"fgDelivery"_s);
+    PressMenu(Qt::Key_D);
+    EXPECT_EQ(Focused(), u"txtShipto(6)"_s);
+    PressMenu(Qt::Key_A);
+    const QWidget* focus = screens.Find(delivery)->focusWidget();
+    EXPECT_TRUE(focus->isVisible() && (focus->focusPolicy() & Qt::TabFocus))
+        << focus->objectName().toStdString();
 }
 
 TEST_F(DeliveryScreen, PopupOffersThePanelsAsWell) {
