@@ -601,6 +601,31 @@ TEST_F(DeliveryScreen, ClickOnADateThatHasPassedOverNightTells) {
     EXPECT_EQ(Date()->Date(), QDate(2026, 3, 9));
 }
 
+TEST_F(DeliveryScreen, DateIsEditedWithTheMouse) {
+    Open();
+    const QPoint start(4, Date()->height() / 2);
+    QTest::mouseClick(Date(), Qt::LeftButton, Qt::NoModifier, start);
+    Date()->setFocus();
+    EXPECT_EQ(Date()->cursorPosition(), 0);
+    PressFocused(Qt::Key_Delete);
+    TypeFocused(u"4"_s);
+    EXPECT_EQ(Date()->text(), u"4/9/2026"_s);
+    QTest::mouseClick(Date(), Qt::LeftButton, Qt::NoModifier, start);
+    EXPECT_EQ(Date()->text(), u"4/9/2026"_s);
+    EXPECT_EQ(Date()->cursorPosition(), 0);
+    PressFocused(Qt::Key_Tab);
+    EXPECT_EQ(office.deliveryForm.DTShip, QDate(2026, 4, 9));
+}
+
+TEST_F(DeliveryScreen, HalfADateThatIsLeftIsReplacedByTheDateThatStands) {
+    Open();
+    Date()->setFocus();
+    Date()->selectAll();
+    TypeFocused(u"3/1"_s);
+    screens.Find(delivery)->setFocus(Qt::OtherFocusReason);
+    EXPECT_EQ(Date()->text(), u"3/9/2026"_s);
+}
+
 TEST_F(DeliveryScreen, CalendarOffersNoDateBeforeToday) {
     Open();
     Date()->setFocus();
