@@ -141,12 +141,8 @@ void DeliverySlipRoutines::ProcessPastSlips(const std::vector<QString>& names) {
 }
 
 void DeliverySlipRoutines::WriteSlipHeader(const SlipHeader& header) {
-    WriteHeaderFile(HeaderFile(TrimBlanks(header.table[0])), header);
-}
-
-void DeliverySlipRoutines::WriteHeaderFile(const QString& name, const SlipHeader& header) {
-    disk.KillFile(name);
-    disk.OpenForOutput(name);
+    disk.KillFile(temporaryHeader);
+    disk.OpenForOutput(temporaryHeader);
     TextWriter writer(disk);
     for (const QString& line : header.table)
         writer.Plain(TrimBlanks(line));
@@ -156,19 +152,13 @@ void DeliverySlipRoutines::WriteHeaderFile(const QString& name, const SlipHeader
         writer.Quoted(TrimBlanks(line));
 }
 
+/// Closes all files first, and so the header, which its writer has left open.
 void DeliverySlipRoutines::WriteSlipItems(const GridModel& grid, const QString& slipNo,
                                           qint16 count, const QString& total) {
-    const QString number = TrimBlanks(slipNo);
-    WriteItemFile(ItemFile(number), grid, number, count, total);
-}
-
-void DeliverySlipRoutines::WriteItemFile(const QString& name, const GridModel& grid,
-                                         const QString& number, qint16 count,
-                                         const QString& total) {
-    disk.KillFile(name);
-    disk.OpenForOutput(name);
+    disk.KillFile(temporaryItems);
+    disk.OpenForOutput(temporaryItems);
     TextWriter writer(disk);
-    writer.Plain(number);
+    writer.Plain(slipNo);
     writer.Plain(QString::number(count));
     for (int row = 1; row <= count; ++row) {
         for (int column = 0; column < slipItemColumns; ++column)
@@ -182,8 +172,8 @@ void DeliverySlipRoutines::StoreSlip(const SlipHeader& header, const GridModel& 
                                      const QString& total) {
     const QString number = TrimBlanks(header.table[0]);
     ReplaceSlip(number, [&] {
-        WriteHeaderFile(temporaryHeader, header);
-        WriteItemFile(temporaryItems, grid, number, count, total);
+        WriteSlipHeader(header);
+        WriteSlipItems(grid, number, count, total);
     });
 }
 
@@ -242,7 +232,7 @@ void DeliverySlipRoutines::SplitSlip(const QString& oldSlipNo, int entry, const 
     const qint16 count = ToInt16(double(items.DataRows()), u"the number of item lines"_s);
     ReplaceSlip(newSlipNo, [&] {
         CopyHeaderAsOneTime(oldSlipNo, newSlipNo, entry);
-        WriteItemFile(temporaryItems, items, newSlipNo, count, total);
+        WriteSlipItems(items, newSlipNo, count, total);
     });
     ProcessPastSlip(oldSlipNo, date, recurringText, frequency);
     UpdateDeliveryCounter();
