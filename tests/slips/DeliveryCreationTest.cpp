@@ -555,10 +555,7 @@ TEST_F(DeliveryCreationTest, ReDoTakesTheLinesAndLeavesCustomerAndNumber) {
 }
 
 TEST_F(DeliveryCreationTest, LoadedTemplateGoesOnToTheItemsByTheSameChecks) {
-    folder.Write(u"Templates/Deliveries/Week.txt"_s, QByteArray("3").leftJustified(10, ' ') +
-                                                         QByteArray("Sand").leftJustified(45, ' ') +
-                                                         QByteArray("9.00").leftJustified(10, ' ') +
-                                                         "True ");
+    folder.Write(u"Templates/Deliveries/Week.txt"_s, TemplateLine("3", "Sand", "9.00"));
     Begin();
     form.txtShipto[0].clear();
     user.ExpectMessage(u"You have not entered Deliver to Data"_s);

@@ -587,13 +587,8 @@ TEST_F(DeliveryItemsTest, ClearingTakesLinesUnitsReferenceAndTotalAway) {
 TEST_F(DeliveryItemsTest, TemplateReplacesTheLinesAtItsOwnPrices) {
     Post(Gravel, u"2"_s);
     form.txtReference = u"PO 7"_s;
-    const auto line = [](const QByteArray& units, const QByteArray& description,
-                         const QByteArray& price) {
-        return units.leftJustified(10, ' ') + description.leftJustified(45, ' ') +
-               price.leftJustified(10, ' ') + "True ";
-    };
     folder.Write(u"Templates/Deliveries/Week.txt"_s,
-                 line("3", "Sand", "9.00") + line("1.5", "Heating Oil", "10.00"));
+                 TemplateLine("3", "Sand", "9.00") + TemplateLine("1.5", "Heating Oil", "10.00"));
     office.templates.RefreshList();
     office.templates.SelectTemplate(0);
     items.LoadTemplate();

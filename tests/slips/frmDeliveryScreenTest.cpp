@@ -35,12 +35,6 @@ const QString headers = u"TesselDelivery/Deliveries/"_s;
 const QString itemFiles = u"TesselDelivery/DeliveryItems/"_s;
 const QString templateFiles = u"Templates/Deliveries/"_s;
 
-QByteArray TemplateLine(const QByteArray& units, const QByteArray& description,
-                        const QByteArray& price) {
-    return units.leftJustified(10, ' ') + description.leftJustified(45, ' ') +
-           price.leftJustified(10, ' ') + "True ";
-}
-
 } // namespace
 
 class DeliveryScreen : public ScreenTest {
