@@ -326,7 +326,15 @@ TEST_F(DeliveryScreen, OpensOnTheSetupOfANewSlipForTheCustomer) {
 }
 
 TEST_F(DeliveryScreen, CustomerScreenLeadsHere) {
-    folder.Write(u"CustomerData.txt"_s, SampleCustomer{}.Bytes());
+    const SampleCustomer baker{.account = "4472",
+                               .businessName = "Mill Bakery",
+                               .address1 = "3 Canal Street",
+                               .address2 = "Apt 9",
+                               .city = "Riverton",
+                               .state = "IN",
+                               .zip = "62561",
+                               .postalOrAddress4 = "62561"};
+    folder.Write(u"CustomerData.txt"_s, baker.Bytes());
     folder.Write(u"ContractInfo.txt"_s, Siblings(1, 386));
     folder.Write(u"CycleInfo.txt"_s, Siblings(1, 69));
     office.MenuChoice = 5;
@@ -334,7 +342,13 @@ TEST_F(DeliveryScreen, CustomerScreenLeadsHere) {
     Click(ScreenName::frmCustomer, u"cmdCustomer(1)"_s);
     EXPECT_TRUE(IsShown(delivery));
     EXPECT_FALSE(IsShown(ScreenName::frmCustomer));
-    EXPECT_EQ(Caption(u"lblCustomer(6)"_s), u"Corner Grocery"_s);
+    EXPECT_EQ(Caption(u"lblAcctNo"_s), u"4472"_s);
+    const QStringList address = {u"Mill Bakery"_s, u"3 Canal Street"_s, u"Apt 9"_s, u"Riverton"_s,
+                                 u"IN"_s,          u"62561"_s};
+    for (int i = 0; i < 6; ++i) {
+        EXPECT_EQ(Caption(u"lblCustomer(%1)"_s.arg(i + 6)), address[i]);
+        EXPECT_EQ(Shown(u"txtShipto(%1)"_s.arg(i)), address[i]);
+    }
 }
 
 TEST_F(DeliveryScreen, MenuGoesBackAndNothingIsWritten) {
@@ -744,6 +758,17 @@ TEST_F(DeliveryScreen, ClickOnAnItemGoesOnToTheUnitsAndArrowKeysDoNot) {
     EXPECT_EQ(Selected(u"lstItems"_s), u"Gravel, fine"_s);
 }
 
+TEST_F(DeliveryScreen, PostWithoutASelectedItemBeepsAndComesBackToTheList) {
+    OpenItems();
+    PressFocused(Qt::Key_Tab);
+    TypeFocused(u"2"_s);
+    PressFocused(Qt::Key_Return);
+    EXPECT_EQ(user.Beeps, 1);
+    EXPECT_EQ(Focused(), u"lstItems"_s);
+    EXPECT_EQ(Shown(u"txtUnits"_s), u"2"_s);
+    EXPECT_EQ(office.deliveryItems.SlipItemCount, 0);
+}
+
 TEST_F(DeliveryScreen, OneItemAloneIsSelectedAndTheUnitsComeNext) {
     folder.Write(u"NXInventoriedItems.txt"_s, ItemBytes{.description = "Sand"}.Record());
     OpenItems();
@@ -1133,6 +1158,21 @@ TEST_F(DeliveryScreen, FullDiskStopsTheProgramAndLeavesNoSlip) {
     ASSERT_EQ(Failures().size(), 1U);
     EXPECT_EQ(Failures().front().Kind(), FailureKind::DiskFull);
     EXPECT_EQ(folder.Contents(), before);
+}
+
+TEST_F(DeliveryScreen, CounterThatCantBeSavedStopsTheProgramBehindTheWholeSlip) {
+    OpenItems();
+    Post(2, u"2"_s);
+    // A folder in the way of the counter's old copy.
+    folder.MakeFolder(u"Backup/NQDeliveryNo.txt"_s);
+    ClickOn(u"cmdStore"_s);
+    ASSERT_EQ(Failures().size(), 1U);
+    EXPECT_EQ(Failures().front().Sentence(),
+              u"Deleting Backup/NQDeliveryNo.txt failed: Is a directory."_s);
+    EXPECT_EQ(folder.Read(headers + u"20260001.txt"_s).count("\r\n"), 22);
+    EXPECT_EQ(folder.Read(itemFiles + u"20260001.txt"_s),
+              "20260001\r\n1\r\n2\r\nSand\r\n$2.35\r\n$4.70\r\n\"$4.70\"\r\n");
+    EXPECT_EQ(folder.Read(counterFile), "20260001\r\n");
 }
 
 TEST_F(DeliveryScreen, CloseBoxEndsTheProgram) {
