@@ -31,7 +31,7 @@ void WriteBoardSlips(Office& office, int slips, int onDay) {
             slip.date = u"3/17/2026"_s;
         else if (!isOnDay)
             slip.vehicle = u"Van 2"_s;
-        WriteHeader(office, slip);
+        WriteSlip(office, slip);
     }
 }
 
@@ -81,11 +81,11 @@ void WriteRangeSlips(Office& office, int slips) {
     constexpr int timeStep = 5;
     for (int number = 1; number <= slips; ++number) {
         const QDate date = today.addDays(number * dayStep % days);
-        WriteHeader(office, {.number = SlipNumber(number),
-                             .date = ShortDateText(date),
-                             .time = times[number * timeStep % times.size()],
-                             .recurring = u"True"_s,
-                             .frequency = u"0000001"_s});
+        WriteSlip(office, {.number = SlipNumber(number),
+                           .date = ShortDateText(date),
+                           .time = times[number * timeStep % times.size()],
+                           .recurring = u"True"_s,
+                           .frequency = u"0000001"_s});
     }
 }
 
@@ -238,8 +238,7 @@ static void PrintSchedule(benchmark::State& state) {
         // Every customer has one delivery, or each slip would be printed for each of the others.
         const BenchSlip slip{.number = SlipNumber(number),
                              .customer = u"Customer "_s + QString::number(number)};
-        WriteHeader(office.rules, slip);
-        WriteItems(office.rules, slip, itemsOfSlip);
+        WriteSlip(office.rules, slip, itemsOfSlip);
     }
     ShowDay(office.rules);
     TracingPrinter tracer;

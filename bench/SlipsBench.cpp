@@ -33,7 +33,7 @@ static void LoadSlips(benchmark::State& state) {
     const BenchFolder folder;
     BenchOffice office(folder.Path());
     for (int number = 1; number <= slips; ++number)
-        WriteHeader(office.rules, {.number = SlipNumber(number)});
+        WriteSlip(office.rules, {.number = SlipNumber(number)});
     const std::string deliveries = DeliveriesPath(folder);
     CompareWithFloor(
         state, {"Loading 10,000 slips against reading their files", 1.5},
@@ -50,10 +50,10 @@ class PastSlips {
 public:
     PastSlips() {
         for (int number = 1; number <= count; ++number) {
-            WriteHeader(office.rules, {.number = SlipNumber(number),
-                                       .date = u"3/2/2026"_s,
-                                       .recurring = u"True"_s,
-                                       .frequency = u"0000001"_s});
+            WriteSlip(office.rules, {.number = SlipNumber(number),
+                                     .date = u"3/2/2026"_s,
+                                     .recurring = u"True"_s,
+                                     .frequency = u"0000001"_s});
         }
         for (const std::string& path : PlainList(deliveries))
             contents.emplace_back(path, PlainRead(path));
@@ -203,8 +203,7 @@ private:
         header[SlipLine::SlipNumber] = number;
     }
     void WriteFiles() {
-        office.rules.slips.WriteSlipHeader(header);
-        office.rules.slips.WriteSlipItems(grid, number, linesOfSlip, u"$50,500.00"_s);
+        office.rules.slips.StoreSlip(header, grid, linesOfSlip, u"$50,500.00"_s);
     }
     std::string PathOf(const char* part) const {
         return folder.Path().toStdString() + "/TesselDelivery/" + part + '/' +

@@ -42,12 +42,7 @@ SlipHeader HeaderOf(const BenchSlip& slip) {
     return header;
 }
 
-void WriteHeader(Office& office, const BenchSlip& slip) {
-    office.slips.WriteSlipHeader(HeaderOf(slip));
-    office.disk.CloseAllFiles();
-}
-
-void WriteItems(Office& office, const BenchSlip& slip, int items) {
+void WriteSlip(Office& office, const BenchSlip& slip, int items) {
     GridModel grid({u"Units"_s, u"Description"_s, u"Price"_s, u"Total"_s});
     grid.SetRows(items + 1);
     for (int row = 1; row <= items; ++row) {
@@ -56,8 +51,8 @@ void WriteItems(Office& office, const BenchSlip& slip, int items) {
         grid.SetText(row, 2, u"$2.00"_s);
         grid.SetText(row, 3, u"$%1.00"_s.arg(2 * row));
     }
-    office.slips.WriteSlipItems(grid, slip.number, qint16(items),
-                                u"$%1.00"_s.arg(items * (items + 1)));
+    office.slips.StoreSlip(HeaderOf(slip), grid, qint16(items),
+                           u"$%1.00"_s.arg(items * (items + 1)));
 }
 
 QString SlipNumber(int number) {

@@ -83,8 +83,7 @@ struct BenchSlip {
 };
 
 SlipHeader HeaderOf(const BenchSlip& slip);
-void WriteHeader(Office& office, const BenchSlip& slip);
-void WriteItems(Office& office, const BenchSlip& slip, int items);
+void WriteSlip(Office& office, const BenchSlip& slip, int items = 0);
 
 /// "20260001" for 1, and so on.
 QString SlipNumber(int number);

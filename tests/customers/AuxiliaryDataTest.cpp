@@ -68,8 +68,8 @@ TEST_F(AuxiliaryDataTest, HeadingsComeBackAsWholeLines) {
 }
 
 TEST_F(AuxiliaryDataTest, SavingHeadingsDeletesTheCopyInBackup) {
-    folder.Write(u"Backup/AuxHeadings.txt"_s, "old\r\n");
     data.Load();
+    folder.Write(u"Backup/AuxHeadings.txt"_s, "old\r\n");
     data.SaveAuxHeadings();
     EXPECT_FALSE(folder.Has(u"Backup/AuxHeadings.txt"_s));
     EXPECT_EQ(
@@ -132,7 +132,7 @@ TEST_F(AuxiliaryDataTest, SavingMakesTheFoldersAndAFileForEveryBoxAlsoAnEmptyOne
 }
 
 TEST_F(AuxiliaryDataTest, SavingMakesTheFolderOfAllToo) {
-    folder.Remove(u"AuxFiles"_s);
+    ASSERT_TRUE(QDir(folder.Path()).rmdir(u"AuxFiles"_s));
     EXPECT_EQ(Saved(u"text"_s), "text\r\n");
 }
 

@@ -555,10 +555,7 @@ TEST_F(DeliveryCreationTest, ReDoTakesTheLinesAndLeavesCustomerAndNumber) {
 }
 
 TEST_F(DeliveryCreationTest, LoadedTemplateGoesOnToTheItemsByTheSameChecks) {
-    folder.Write(u"Templates/Deliveries/Week.txt"_s, QByteArray("3").leftJustified(10, ' ') +
-                                                         QByteArray("Sand").leftJustified(45, ' ') +
-                                                         QByteArray("9.00").leftJustified(10, ' ') +
-                                                         "True ");
+    folder.Write(u"Templates/Deliveries/Week.txt"_s, TemplateLine("3", "Sand", "9.00"));
     Begin();
     form.txtShipto[0].clear();
     user.ExpectMessage(u"You have not entered Deliver to Data"_s);
@@ -763,11 +760,44 @@ TEST_F(DeliveryCreationTest, NumberThatNamesNoFileFailsAndNothingElseChanges) {
     creation.Continue();
     PostSand(u"2"_s);
     const auto before = folder.Contents();
-    for (const QString& number : {u"12/7"_s, u"../7"_s, QString(300, u'7')}) {
+    const QString longNumber(300, u'7');
+    const std::tuple<QString, FailureKind, QString> cases[] = {
+        {u"12/7"_s, FailureKind::FileNotFound,
+         u"Renaming TesselDelivery/DeliveryItems/TempFile.txt to "
+         "TesselDelivery/DeliveryItems/12/7.txt failed: No such file or directory."_s},
+        {u"../7"_s, FailureKind::BadFileName,
+         u"The name \"/TesselDelivery/DeliveryItems/../7.txt\" would lead out of the data "
+         "folder."_s},
+        {longNumber, FailureKind::BadFileName,
+         u"Deleting TesselDelivery/DeliveryItems/%1.txt failed: File name too long."_s.arg(
+             longNumber)}};
+    for (const auto& [number, kind, sentence] : cases) {
         form.txtDeliveryNo = number;
-        FailureOf([&] { creation.Store(); });
+        const RuntimeFailure failure = FailureOf([&] { creation.Store(); });
+        EXPECT_EQ(failure.Kind(), kind) << number.toStdString();
+        EXPECT_EQ(failure.Sentence(), sentence);
         EXPECT_EQ(folder.Contents(), before) << number.toStdString();
     }
+}
+
+TEST_F(DeliveryCreationTest, CounterThatCantBeSavedFailsBehindTheWholeSlip) {
+    Begin();
+    creation.Continue();
+    PostSand(u"2"_s);
+    DropRootRights(folder);
+    const QByteArray path = folder.Path().toUtf8();
+    ASSERT_EQ(::chmod(path.constData(), 0555), 0);
+    const RuntimeFailure failure = FailureOf([&] { creation.Store(); });
+    ASSERT_EQ(::chmod(path.constData(), 0755), 0);
+    EXPECT_EQ(failure.Kind(), FailureKind::PermissionDenied);
+    EXPECT_EQ(failure.Sentence(), u"Deleting NQDeliveryNo.txt failed: Permission denied."_s);
+    EXPECT_EQ(folder.Read(counterFile), "20260001\r\n");
+    EXPECT_EQ(folder.Read(HeaderName(u"20260001"_s)).count("\r\n"), 22);
+    EXPECT_EQ(folder.Read(ItemName(u"20260001"_s)),
+              "20260001\r\n1\r\n2\r\nSand\r\n$2.35\r\n$4.70\r\n\"$4.70\"\r\n");
+    EXPECT_FALSE(folder.Has(u"DeliverySettings.txt"_s));
+    office.slips.LoadSlips(true);
+    EXPECT_EQ(office.slips.SlipCount, 1);
 }
 
 TEST_F(DeliveryCreationTest, StoredSlipIsOneOfTheSlipsOfItsDayAndVehicle) {

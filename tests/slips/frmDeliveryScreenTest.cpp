@@ -35,12 +35,6 @@ const QString headers = u"TesselDelivery/Deliveries/"_s;
 const QString itemFiles = u"TesselDelivery/DeliveryItems/"_s;
 const QString templateFiles = u"Templates/Deliveries/"_s;
 
-QByteArray TemplateLine(const QByteArray& units, const QByteArray& description,
-                        const QByteArray& price) {
-    return units.leftJustified(10, ' ') + description.leftJustified(45, ' ') +
-           price.leftJustified(10, ' ') + "True ";
-}
-
 } // namespace
 
 class DeliveryScreen : public ScreenTest {
@@ -92,6 +86,19 @@ protected:
         QTest::mouseClick(List(list)->viewport(), Qt::LeftButton, Qt::NoModifier, entry.center());
     }
     void PressFocused(Qt::Key key) { Press(screens.Find(delivery)->focusWidget(), key); }
+    /// Alt and a letter of the menu bar.
+    void PressMenu(Qt::Key letter) {
+        QTest::keyClick(screens.Find(delivery)->focusWidget(), letter, Qt::AltModifier);
+    }
+    /// Alt alone leads into the menu bar, the arrow key to the entry, Enter takes it.
+    void WalkMenuBarTo(int place) {
+        QTest::keyClick(screens.Find(delivery)->focusWidget(), Qt::Key_Alt);
+        QMenuBar* bar = screens.Find(delivery)->menuBar();
+        ASSERT_TRUE(bar->hasFocus());
+        for (int i = 0; i < place; ++i)
+            QTest::keyClick(bar, Qt::Key_Right);
+        QTest::keyClick(bar, Qt::Key_Return);
+    }
     void TypeFocused(const QString& text) { Type(screens.Find(delivery)->focusWidget(), text); }
     void Enter(const QString& field, const QString& text) {
         Text(field)->setFocus();
@@ -319,7 +326,15 @@ TEST_F(DeliveryScreen, OpensOnTheSetupOfANewSlipForTheCustomer) {
 }
 
 TEST_F(DeliveryScreen, CustomerScreenLeadsHere) {
-    folder.Write(u"CustomerData.txt"_s, SampleCustomer{}.Bytes());
+    const SampleCustomer baker{.account = "4472",
+                               .businessName = "Mill Bakery",
+                               .address1 = "3 Canal Street",
+                               .address2 = "Apt 9",
+                               .city = "Riverton",
+                               .state = "IN",
+                               .zip = "62561",
+                               .postalOrAddress4 = "62561"};
+    folder.Write(u"CustomerData.txt"_s, baker.Bytes());
     folder.Write(u"ContractInfo.txt"_s, Siblings(1, 386));
     folder.Write(u"CycleInfo.txt"_s, Siblings(1, 69));
     office.MenuChoice = 5;
@@ -327,7 +342,13 @@ TEST_F(DeliveryScreen, CustomerScreenLeadsHere) {
     Click(ScreenName::frmCustomer, u"cmdCustomer(1)"_s);
     EXPECT_TRUE(IsShown(delivery));
     EXPECT_FALSE(IsShown(ScreenName::frmCustomer));
-    EXPECT_EQ(Caption(u"lblCustomer(6)"_s), u"Corner Grocery"_s);
+    EXPECT_EQ(Caption(u"lblAcctNo"_s), u"4472"_s);
+    const QStringList address = {u"Mill Bakery"_s, u"3 Canal Street"_s, u"Apt 9"_s, u"Riverton"_s,
+                                 u"IN"_s,          u"62561"_s};
+    for (int i = 0; i < 6; ++i) {
+        EXPECT_EQ(Caption(u"lblCustomer(%1)"_s.arg(i + 6)), address[i]);
+        EXPECT_EQ(Shown(u"txtShipto(%1)"_s.arg(i)), address[i]);
+    }
 }
 
 TEST_F(DeliveryScreen, MenuGoesBackAndNothingIsWritten) {
@@ -588,6 +609,31 @@ TEST_F(DeliveryScreen, ClickOnADateThatHasPassedOverNightTells) {
     EXPECT_EQ(Date()->Date(), QDate(2026, 3, 9));
 }
 
+TEST_F(DeliveryScreen, DateIsEditedWithTheMouse) {
+    Open();
+    const QPoint start(4, Date()->height() / 2);
+    QTest::mouseClick(Date(), Qt::LeftButton, Qt::NoModifier, start);
+    Date()->setFocus();
+    EXPECT_EQ(Date()->cursorPosition(), 0);
+    PressFocused(Qt::Key_Delete);
+    TypeFocused(u"4"_s);
+    EXPECT_EQ(Date()->text(), u"4/9/2026"_s);
+    QTest::mouseClick(Date(), Qt::LeftButton, Qt::NoModifier, start);
+    EXPECT_EQ(Date()->text(), u"4/9/2026"_s);
+    EXPECT_EQ(Date()->cursorPosition(), 0);
+    PressFocused(Qt::Key_Tab);
+    EXPECT_EQ(office.deliveryForm.DTShip, QDate(2026, 4, 9));
+}
+
+TEST_F(DeliveryScreen, HalfADateThatIsLeftIsReplacedByTheDateThatStands) {
+    Open();
+    Date()->setFocus();
+    Date()->selectAll();
+    TypeFocused(u"3/1"_s);
+    screens.Find(delivery)->setFocus(Qt::OtherFocusReason);
+    EXPECT_EQ(Date()->text(), u"3/9/2026"_s);
+}
+
 TEST_F(DeliveryScreen, CalendarOffersNoDateBeforeToday) {
     Open();
     Date()->setFocus();
@@ -710,6 +756,17 @@ TEST_F(DeliveryScreen, ClickOnAnItemGoesOnToTheUnitsAndArrowKeysDoNot) {
     EXPECT_EQ(Caption(u"txtTotal"_s), u"$37.50"_s);
     EXPECT_EQ(Shown(u"txtUnits"_s), QString());
     EXPECT_EQ(Selected(u"lstItems"_s), u"Gravel, fine"_s);
+}
+
+TEST_F(DeliveryScreen, PostWithoutASelectedItemBeepsAndComesBackToTheList) {
+    OpenItems();
+    PressFocused(Qt::Key_Tab);
+    TypeFocused(u"2"_s);
+    PressFocused(Qt::Key_Return);
+    EXPECT_EQ(user.Beeps, 1);
+    EXPECT_EQ(Focused(), u"lstItems"_s);
+    EXPECT_EQ(Shown(u"txtUnits"_s), u"2"_s);
+    EXPECT_EQ(office.deliveryItems.SlipItemCount, 0);
 }
 
 TEST_F(DeliveryScreen, OneItemAloneIsSelectedAndTheUnitsComeNext) {
@@ -938,6 +995,92 @@ TEST_F(DeliveryScreen, MenusShowTheirPanels) {
     EXPECT_TRUE(IsVisible(u"cmdStore"_s) && IsVisible(u"cmdExit"_s));
 }
 
+TEST_F(DeliveryScreen, MenuLeavesAnEmptyNumberAsAButtonDoes) {
+    OpenItems();
+    Post(2, u"2"_s);
+    PressMenu(Qt::Key_D);
+    ClickOn(u"cmdInvoice(4)"_s);
+    ExpectReloaded();
+    PressMenu(Qt::Key_I);
+    EXPECT_EQ(Panels(), QStringList{u"fraItems"_s});
+    ClickOn(u"cmdStore"_s);
+    EXPECT_TRUE(folder.Has(headers + u"20260001.txt"_s));
+    EXPECT_FALSE(folder.Has(headers + u".txt"_s));
+}
+
+TEST_F(DeliveryScreen, MenuDoesNotActWhenTheUnitsAreNoNumber) {
+    OpenItems();
+    for (const Qt::Key letter : {Qt::Key_D, Qt::Key_A, Qt::Key_N}) {
+        Enter(u"txtUnits"_s, u"."_s);
+        PressMenu(letter);
+        EXPECT_EQ(Panels(), QStringList{u"fraItems"_s});
+        EXPECT_EQ(Shown(u"txtUnits"_s), u"0"_s);
+        EXPECT_EQ(Focused(), u"txtUnits"_s);
+    }
+    EXPECT_EQ(user.Beeps, 3);
+}
+
+TEST_F(DeliveryScreen, MenuPreparesAReferenceThatIsLeftEmpty) {
+    Open();
+    Enter(u"txtReference"_s, u"PO"_s);
+    Text(u"txtReference"_s)->clear();
+    PressMenu(Qt::Key_I);
+    PressMenu(Qt::Key_D);
+    EXPECT_EQ(Shown(u"txtReference"_s), u"Prepared 3/9/2026"_s);
+}
+
+TEST_F(DeliveryScreen, MenuTakesADateThatIsTyped) {
+    Open();
+    for (const auto& [typed, date] :
+         {std::pair(u"3/12/2026"_s, QDate(2026, 3, 12)), {u"3/14/2026"_s, QDate(2026, 3, 16)}}) {
+        Date()->setFocus();
+        Date()->selectAll();
+        TypeFocused(typed);
+        PressMenu(Qt::Key_I);
+        EXPECT_EQ(office.deliveryForm.DTShip, date);
+        PressMenu(Qt::Key_D);
+        EXPECT_EQ(Date()->Date(), date);
+    }
+}
+
+TEST_F(DeliveryScreen, MenuBarWalkedByKeysLeavesTheFieldAsItsLettersDo) {
+    OpenItems();
+    Enter(u"txtUnits"_s, u"."_s);
+    WalkMenuBarTo(2);
+    EXPECT_EQ(Panels(), QStringList{u"fraItems"_s});
+    EXPECT_EQ(Shown(u"txtUnits"_s), u"0"_s);
+    EXPECT_EQ(Focused(), u"txtUnits"_s);
+    EXPECT_EQ(user.Beeps, 1);
+    WalkMenuBarTo(1);
+    EXPECT_EQ(Panels(), QStringList{u"fraSetup"_s});
+    EXPECT_EQ(Focused(), u"txtShipto(6)"_s);
+}
+
+TEST_F(DeliveryScreen, ClickOnTheMenuBarLeavesTheField) {
+    Open();
+    ClickOn(u"cmdInvoice(4)"_s);
+    ExpectReloaded();
+    QMenuBar* bar = screens.Find(delivery)->menuBar();
+    QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier,
+                      bar->actionGeometry(Menu(u"mnuItems"_s)).center());
+    EXPECT_EQ(Panels(), QStringList{u"fraItems"_s});
+    EXPECT_EQ(office.deliveryForm.txtDeliveryNo, u"20260001"_s);
+}
+
+TEST_F(DeliveryScreen, MenuThatMovesNoFocusGivesItBackOrOn) {
+    OpenItems();
+    grid->setFocus();
+    PressMenu(Qt::Key_A);
+    EXPECT_EQ(Panels(), QStringList{u"fraCustomer"_s});
+    EXPECT_EQ(Focused(), u"fgDelivery"_s);
+    PressMenu(Qt::Key_D);
+    EXPECT_EQ(Focused(), u"txtShipto(6)"_s);
+    PressMenu(Qt::Key_A);
+    const QWidget* focus = screens.Find(delivery)->focusWidget();
+    EXPECT_TRUE(focus->isVisible() && (focus->focusPolicy() & Qt::TabFocus))
+        << focus->objectName().toStdString();
+}
+
 TEST_F(DeliveryScreen, PopupOffersThePanelsAsWell) {
     OpenItems();
     QStringList names;
@@ -1015,6 +1158,21 @@ TEST_F(DeliveryScreen, FullDiskStopsTheProgramAndLeavesNoSlip) {
     ASSERT_EQ(Failures().size(), 1U);
     EXPECT_EQ(Failures().front().Kind(), FailureKind::DiskFull);
     EXPECT_EQ(folder.Contents(), before);
+}
+
+TEST_F(DeliveryScreen, CounterThatCantBeSavedStopsTheProgramBehindTheWholeSlip) {
+    OpenItems();
+    Post(2, u"2"_s);
+    // A folder in the way of the counter's old copy.
+    folder.MakeFolder(u"Backup/NQDeliveryNo.txt"_s);
+    ClickOn(u"cmdStore"_s);
+    ASSERT_EQ(Failures().size(), 1U);
+    EXPECT_EQ(Failures().front().Sentence(),
+              u"Deleting Backup/NQDeliveryNo.txt failed: Is a directory."_s);
+    EXPECT_EQ(folder.Read(headers + u"20260001.txt"_s).count("\r\n"), 22);
+    EXPECT_EQ(folder.Read(itemFiles + u"20260001.txt"_s),
+              "20260001\r\n1\r\n2\r\nSand\r\n$2.35\r\n$4.70\r\n\"$4.70\"\r\n");
+    EXPECT_EQ(folder.Read(counterFile), "20260001\r\n");
 }
 
 TEST_F(DeliveryScreen, CloseBoxEndsTheProgram) {
