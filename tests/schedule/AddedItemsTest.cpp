@@ -494,6 +494,33 @@ TEST_F(AddedItemsTest, SavingStoresACopyWithTheItemsAndEmptiesTheBoard) {
     EXPECT_EQ(Column(ScheduleColumn::SlipNo), (QStringList{u"20260001"_s, u"7"_s}));
 }
 
+TEST_F(AddedItemsTest, SavingLeavesTheEmptyRowAsTheCurrentOne) {
+    StoreSlip({.number = u"8"_s, .recurring = u"False"_s});
+    OpenOverSlip({.number = u"7"_s, .recurring = u"False"_s});
+    board.fgSchedule.SetCurrent(2, int(ScheduleColumn::Customer));
+    added.AddToSlip();
+    added.SaveSlip();
+    EXPECT_EQ(board.fgSchedule.CurrentRow(), 1);
+    board.txtDeliveryCharge = u"5"_s;
+    user.ExpectMessage(u"You have not selected a Delivery from the Grid"_s);
+    EXPECT_EQ(board.EnterCharge(), ScheduleBoard::ChargeEntry::NoDelivery);
+    user.ExpectNothingLeft();
+}
+
+TEST_F(AddedItemsTest, SecondSaveWithoutANewChoiceCopiesTheFirstEntryOfTheTable) {
+    OpenOverSlip({.number = u"7"_s, .recurring = u"False"_s});
+    Enter(1, u"2"_s);
+    added.AddToSlip();
+    added.Open();
+    added.SaveSlip();
+    added.AddToSlip();
+    added.SaveSlip();
+    EXPECT_EQ(folder.Read(ItemName(u"20260002"_s)),
+              QByteArray(copyItemBytes).replace("20260001", "20260002"));
+    EXPECT_EQ(office.slips.SlipCount, 3);
+    EXPECT_FALSE(added.SaveIsEnabled);
+}
+
 TEST_F(AddedItemsTest, SavingARecurringSlipMovesTheOldOneOn) {
     office.settings.ckOnDay = 0;
     OpenOverSlip();
