@@ -338,9 +338,8 @@ QWidget* frmPrintSchedules::MakeSlipAmounts() {
     }
     row->addWidget(fraTax);
     row->addWidget(MakeAmount(u"Total"_s, u"lblGrandtotal"_s));
-    fraInvoiceNo =
-        Named(MakeAmount(u"Invoice No (if Printed)"_s, u"lblInvoice"_s), u"fraInvoiceNo"_s);
-    row->addWidget(fraInvoiceNo);
+    row->addWidget(
+        Named(MakeAmount(u"Invoice No (if Printed)"_s, u"lblInvoice"_s), u"fraInvoiceNo"_s));
     return block;
 }
 
@@ -543,14 +542,10 @@ void frmPrintSchedules::cmdPrint_ClearCharge() {
 }
 
 void frmPrintSchedules::cmdPrint_Print() {
-    const auto showSlip = [this] {
-        fraInvoiceNo->show();
-        ShowSlip();
-    };
     office.boardPrinting.Print({.ckPrintWorkSchedule = ckPrintWorkSchedule->isChecked(),
                                 .ckMInvoices = ckMInvoices->isChecked(),
                                 .ckPopulated = ckPopulated->isChecked()},
-                               {.showSlip = showSlip,
+                               {.showSlip = [this] { ShowSlip(); },
                                 .returnToMenu = [this] { cmdPrint_Click(ReturnToMenu); },
                                 .deselectAll = [this] { cmdPrint_Click(DeselectAll); }});
     ShowSlip();
@@ -558,7 +553,6 @@ void frmPrintSchedules::cmdPrint_Print() {
 
 void frmPrintSchedules::cmdPrint_ToggleSlip() {
     fraSlip->setVisible(!fraSlip->isVisible());
-    fraInvoiceNo->show();
     fraSlip->Heading()->setText(board.PanelCaption());
     // The panel takes room from the grid; the row it is about stays in sight.
     QCoreApplication::sendPostedEvents(Body(), QEvent::LayoutRequest);

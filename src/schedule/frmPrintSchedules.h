@@ -105,7 +105,6 @@ private:
     AddItemsPanel* fraAddItems = nullptr;
     QWidget* printChoices = nullptr;
     QWidget* fraTax = nullptr;
-    QWidget* fraInvoiceNo = nullptr;
     std::map<Button, QPushButton*> cmdPrint;
     std::map<QString, QLabel*> captions;
 };
