@@ -275,6 +275,34 @@ TEST_F(AddedItemsTest, QuantityOf0IsEnteredInSilenceWithAlarmAndPromptsOff) {
     EXPECT_EQ(Product(1), (QStringList{mark, u"0"_s, u"Salt"_s, u"$7.00"_s, u"$0.00"_s}));
 }
 
+TEST_F(AddedItemsTest, QuantityOf0OnlyBeepsWithPromptsOff) {
+    OpenOverSlip();
+    office.settings.PromptsOn = false;
+    Enter(1, u"0"_s);
+    EXPECT_EQ(user.Beeps, 1);
+    EXPECT_EQ(Product(1), (QStringList{mark, u"0"_s, u"Salt"_s, u"$7.00"_s, u"$0.00"_s}));
+}
+
+TEST_F(AddedItemsTest, QuantityOf0IsOnlyToldOfWithAlarmOff) {
+    OpenOverSlip();
+    office.settings.AlarmOn = false;
+    user.ExpectMessage(u" Enter a Quantity"_s);
+    Enter(1, u"0"_s);
+    user.ExpectNothingLeft();
+    EXPECT_EQ(user.Beeps, 0);
+    EXPECT_EQ(Product(1), (QStringList{mark, u"0"_s, u"Salt"_s, u"$7.00"_s, u"$0.00"_s}));
+}
+
+TEST_F(AddedItemsTest, ClearQuestionComesWithPromptsOffToo) {
+    office.settings.PromptsOn = false;
+    OpenOverSlip();
+    Enter(2, u"5"_s);
+    ExpectClearQuestion(Answer::Yes);
+    Mark(2);
+    user.ExpectNothingLeft();
+    EXPECT_EQ(Product(2)[1], QString());
+}
+
 TEST_F(AddedItemsTest, OtherZeroesAreEnteredWithoutAMessage) {
     OpenOverSlip();
     Enter(1, u"0.0"_s);

@@ -310,6 +310,31 @@ TEST_F(PrintSchedulesScreen, SecondClickOnTheSameRowRemovesTheMark) {
     EXPECT_TRUE(Button(1)->isEnabled());
 }
 
+TEST_F(PrintSchedulesScreen, RemovingTheMarkLeavesADisabledEnterToGridDisabled) {
+    WriteBusiness();
+    Open();
+    ClickCell(grid, 1, selectColumn);
+    Button(1)->setEnabled(false);
+    ClickCell(grid, 1, selectColumn);
+    EXPECT_EQ(Cell(1, selectColumn), QString());
+    EXPECT_FALSE(Button(1)->isEnabled());
+}
+
+TEST_F(PrintSchedulesScreen, ClickOnARowWhoseSlipFilesHaveGoneIsAFailureThatNamesTheFile) {
+    WriteBusiness();
+    Open();
+    folder.Remove(ItemName(u"502"_s));
+    ClickCell(grid, 1, customerColumn);
+    ASSERT_EQ(Failures().size(), 1U);
+    EXPECT_EQ(Failures()[0].Kind(), FailureKind::FileNotFound);
+    EXPECT_TRUE(Failures()[0].Sentence().contains(u"TesselDelivery/DeliveryItems/502.txt"_s));
+    folder.Remove(HeaderName(u"502"_s));
+    ClickCell(grid, 1, customerColumn);
+    ASSERT_EQ(Failures().size(), 2U);
+    EXPECT_EQ(Failures()[1].Kind(), FailureKind::FileNotFound);
+    EXPECT_TRUE(Failures()[1].Sentence().contains(u"TesselDelivery/Deliveries/502.txt"_s));
+}
+
 TEST_F(PrintSchedulesScreen, ClickInAnotherColumnOpensTheSlipAndDisablesTheToggle) {
     WriteBusiness();
     Open();
@@ -546,6 +571,14 @@ TEST_F(PrintSchedulesScreen, PopulateInvoicesFollowsTheSetting) {
     office.settings.ckPopulateInvoices = 1;
     Open();
     EXPECT_TRUE(Find<QCheckBox>(board, u"ckPopulated"_s)->isChecked());
+}
+
+TEST_F(PrintSchedulesScreen, PopulateInvoicesIsUntickedWhenTheSettingIs) {
+    office.settings.ckPopulateInvoices = 0;
+    Open();
+    Find<QCheckBox>(board, u"ckPopulated"_s)->setChecked(true);
+    dynamic_cast<frmPrintSchedules&>(*screens.Find(board)).Initform();
+    EXPECT_FALSE(Find<QCheckBox>(board, u"ckPopulated"_s)->isChecked());
 }
 
 TEST_F(PrintSchedulesScreen, PrintWithNothingMarkedPrintsNothing) {
