@@ -18,7 +18,6 @@
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
-#include <QListView>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -35,7 +34,7 @@ constexpr double itemsHeight = 7;
 constexpr int addressLines = 6;
 constexpr double logoSize = 1.75;
 
-QListView* MakeList(const QString& name, const QString& accessibleName) {
+ChoiceList* MakeList(const QString& name, const QString& accessibleName) {
     auto* list = Named(new ChoiceList, name);
     list->setAccessibleName(accessibleName);
     return list;
@@ -148,7 +147,7 @@ QWidget* frmPrintSchedules::MakeVehicleCard() {
     connect(lstVehicles->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &frmPrintSchedules::lstVehicles_Click);
     // A click on the vehicle already chosen loads its deliveries anew.
-    connect(lstVehicles, &QListView::clicked, this, &frmPrintSchedules::lstVehicles_Click);
+    connect(lstVehicles, &ChoiceList::ChosenAgain, this, &frmPrintSchedules::lstVehicles_Click);
     connect(&office.fleet.Names, &QAbstractItemModel::modelReset, this,
             &frmPrintSchedules::lstVehicles_Refill);
     return card;

@@ -8,12 +8,12 @@
 
 class AddItemsPanel;
 class Card;
+class ChoiceList;
 class DatePicker;
 class EntryField;
 class Grid;
 class Office;
 class QCheckBox;
-class QListView;
 class QPushButton;
 class QRadioButton;
 class Screens;
@@ -92,8 +92,8 @@ private:
 
     DatePicker* DTPicker1 = nullptr;
     QLabel* lblWeekday = nullptr;
-    QListView* lstVehicles = nullptr;
-    QListView* lstWorkSchedule = nullptr;
+    ChoiceList* lstVehicles = nullptr;
+    ChoiceList* lstWorkSchedule = nullptr;
     EntryField* txtDeliveryCharge = nullptr;
     QCheckBox* ckPopulated = nullptr;
     QCheckBox* ckPrintWorkSchedule = nullptr;

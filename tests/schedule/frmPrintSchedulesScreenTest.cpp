@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -238,6 +239,25 @@ TEST_F(PrintSchedulesScreen, ClickOnTheChosenVehicleLoadsItsDeliveriesAnew) {
     ASSERT_EQ(office.board.fgSchedule.Rows(), 3);
     EXPECT_EQ(Cell(1, selectColumn), QString());
     EXPECT_EQ(Cell(2, chargeColumn), u"$0.00"_s);
+}
+
+TEST_F(PrintSchedulesScreen, ClickOnAVehicleLoadsTheGridOnce) {
+    WriteBusiness();
+    Open();
+    for (const int vehicle : {1, 1, 0}) {
+        const QSignalSpy loads(&office.board.fgSchedule, &QAbstractItemModel::modelReset);
+        ClickVehicle(vehicle);
+        EXPECT_EQ(loads.count(), 1) << vehicle;
+    }
+}
+
+TEST_F(PrintSchedulesScreen, ArrowKeyInTheVehiclesLoadsTheGridOnce) {
+    WriteBusiness();
+    Open();
+    const QSignalSpy loads(&office.board.fgSchedule, &QAbstractItemModel::modelReset);
+    Press(Find<QListView>(board, u"lstVehicles"_s), Qt::Key_Down);
+    EXPECT_EQ(loads.count(), 1);
+    EXPECT_EQ(Caption(u"Label1(14)"_s), u"Tanker - 3/9/2026"_s);
 }
 
 TEST_F(PrintSchedulesScreen, UpDownStepsTheDateByOneDay) {
