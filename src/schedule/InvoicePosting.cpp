@@ -1,16 +1,11 @@
 #include "schedule/InvoicePosting.h"
 
 #include "schedule/InvoiceRecords.h"
+#include "slips/DeliverySlipRoutines.h"
 #include "store/Conversions.h"
 #include "store/TextLines.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-enum ItemColumn { UnitsColumn, ProductColumn };
-
-} // namespace
 
 InvoicePosting::InvoicePosting(BasicDiskRoutines& diskRoutines,
                                const QStringListModel& productNames, const Clock& machineClock)
@@ -44,11 +39,11 @@ void InvoicePosting::PostSoldItems(const GridModel& fgItems, int lineCount,
     record.SaleDate = clock.Today();
     record.InvoiceNo = invoiceNo;
     for (int row = 1; row <= lineCount; ++row) {
-        const QString description = TrimBlanks(fgItems.Text(row, ProductColumn));
+        const QString description = TrimBlanks(fgItems.Text(row, int(SlipItemColumn::Description)));
         const int products = counts.value(description);
         record.Description = description;
         for (int product = 1; product <= products; ++product) {
-            record.Units = ToInt16(fgItems.Text(row, UnitsColumn), where);
+            record.Units = ToInt16(fgItems.Text(row, int(SlipItemColumn::Units)), where);
             WriteRecord(disk, disk.DiskFile, ToInt32(double(number++)), record);
         }
     }

@@ -52,6 +52,26 @@ TEST_F(ChoiceListTest, EnterOnAListThatIsNotOnItsWayIsTold) {
     EXPECT_TRUE(list->hasFocus());
 }
 
+TEST_F(ChoiceListTest, OnlyAPressOnTheChosenEntryIsToldAsChosenAgain) {
+    int told = 0;
+    QObject::connect(list, &ChoiceList::ChosenAgain, [&told] { ++told; });
+    const auto press = [this](int row, Qt::MouseButton button) {
+        QTest::mouseClick(list->viewport(), button, Qt::NoModifier,
+                          list->visualRect(entries.index(row)).center());
+    };
+    press(2, Qt::LeftButton);
+    EXPECT_EQ(list->currentIndex().row(), 2);
+    EXPECT_EQ(told, 0);
+    press(2, Qt::RightButton);
+    EXPECT_EQ(told, 0);
+    press(2, Qt::LeftButton);
+    EXPECT_EQ(told, 1);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      list->visualRect(entries.index(2)).bottomLeft() + QPoint(5, 20));
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(list->currentIndex().row(), 2);
+}
+
 TEST_F(ChoiceListTest, TypingFindsTheEntryThatBeginsSo) {
     list->setFocus();
     QTest::keyClicks(list, u"sal"_s);

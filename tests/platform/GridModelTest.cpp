@@ -15,6 +15,31 @@ TEST(GridModel, ClearGridBlanksAndCutsToTwoRows) {
     EXPECT_EQ(grid.Text(0, 1), u"B"_s);
 }
 
+TEST(GridModel, ClearGridAddsTheDataRowToAGridWithoutOne) {
+    GridModel grid({u"A"_s, u"B"_s});
+    grid.ClearGrid();
+    ASSERT_EQ(grid.Rows(), 2);
+    EXPECT_EQ(grid.Text(1, 1), QString());
+}
+
+TEST(GridModel, ClearGridMovesACurrentDataRowToTheRowThatIsLeft) {
+    for (const int row : {1, 2, 4}) {
+        GridModel grid({u"A"_s, u"B"_s});
+        grid.SetRows(5);
+        grid.SetCurrent(row, 1);
+        grid.ClearGrid();
+        EXPECT_EQ(grid.CurrentRow(), 1) << row;
+        EXPECT_EQ(grid.CurrentColumn(), 1) << row;
+    }
+}
+
+TEST(GridModel, ClearGridLeavesTheHeadingCurrent) {
+    GridModel grid({u"A"_s});
+    grid.SetRows(5);
+    grid.ClearGrid();
+    EXPECT_EQ(grid.CurrentRow(), 0);
+}
+
 TEST(GridModel, CurrentRowMovesUpWhenItsRowGoes) {
     GridModel grid({u"A"_s});
     grid.SetRows(4);
