@@ -202,9 +202,7 @@ private:
         number = SlipNumber(++slips);
         header[SlipLine::SlipNumber] = number;
     }
-    void WriteFiles() {
-        office.rules.slips.StoreSlip(header, grid, linesOfSlip, u"$50,500.00"_s);
-    }
+    void WriteFiles() { office.rules.slips.StoreSlip(header, grid, linesOfSlip, u"$50,500.00"_s); }
     std::string PathOf(const char* part) const {
         return folder.Path().toStdString() + "/TesselDelivery/" + part + '/' +
                number.toStdString() + ".txt";

@@ -2,6 +2,7 @@
 
 #include "support/OfficeTest.h"
 
+#include <QDir>
 #include <QFile>
 
 using namespace Qt::StringLiterals;
