@@ -21,8 +21,8 @@ en_US)
     grandTotalBytes=b839b80000000000
     soldItems=('Plywood Sheet 4x8' 1000 'Framing Lumber 2x4x8' 3000
         'Portland Cement 94 lb Bag' 1400)
-    # The tax of 491.50 is 30.71875.
-    nextTotals=$'Sub-Total $491.50\nSales Tax $30.72\nDelivery Charge $0.00\nTotal $522.22'
+    # The tax of 975.00 is 60.9375.
+    nextTotals=$'Sub-Total $975.00\nSales Tax $60.94\nDelivery Charge $0.00\nTotal $1,035.94'
     ;;
 *) Fail "There is no invoice for $locale." ;;
 esac
@@ -148,12 +148,12 @@ ExpectPapers() {
     ExpectPage "$documents/$invoice" "invoice.$locale.txt"
 }
 
-# The slip panel's number is what an invoice bears, so it shows on the paper of the first delivery.
-# Its charge is that delivery's own. An invoice that came out wrong and is given up posts nothing.
+# Where the invoiced delivery was stands the one behind it, when the vehicle has been chosen again.
+# The number on the board's slip panel is what its invoice bears, and its charge is its own. An invoice that came out wrong and is given up posts nothing.
 PrintAnotherInvoiceAndGiveItUp() {
-    local text another="$documents/Invoice 20260002 Whistling Elm Nursery.pdf"
+    local text another="$documents/Invoice 20260002 Ms Renata Okafor.pdf"
     OpenBoard
-    MarkDelivery 1
+    MarkDelivery 2
     Press "$board" alt+p
     WaitForWindow 'Printing Confirmation' >/dev/null
     [[ -e $another ]] || FailDay "the next invoice is not in $another."
