@@ -171,7 +171,8 @@ ExpectPapers() {
 }
 
 # Where the invoiced delivery was stands the one behind it, when the vehicle has been chosen again.
-# The number on the board's slip panel is what its invoice bears, and its charge is its own. An invoice that came out wrong and is given up posts nothing.
+# The number on the board's slip panel is what its invoice bears, and its charge is its own. An
+# invoice that came out wrong and is given up posts nothing.
 PrintAnotherInvoiceAndGiveItUp() {
     local text another="$documents/Invoice 20260002 Ms Renata Okafor.pdf"
     OpenBoard
