@@ -13,16 +13,21 @@ case $locale in
 en_US)
     today=3/9/2026
     shipDate=3/11/2026
+    nextDate=3/25/2026
     Amount() { printf '$%s' "$1"; }
     ;;
 de_DE)
     today=09.03.2026
     shipDate=11.03.2026
+    nextDate=25.03.2026
     # The blank before the sign of the euro does not break.
     Amount() { printf '%s\u00a0€' "${1/./,}"; }
     ;;
 *) Fail "There are no slips for $locale." ;;
 esac
+
+# Wednesday a week later has passed as well by the day of the second start, so it is the one after.
+laterDay=2026-03-19
 
 # Behind the last slip of the sample business.
 recurringSlip=20260061
@@ -156,6 +161,35 @@ WriteOneTimeSlip() {
     StoreSlip
 }
 
+# From the menu to the board and back, with the print of the whole day. The keys begin in the list of
+# the deliveries, seven places behind the date.
+PrintDay() {
+    local board keys pdf
+    PressButton "$menuWindow" alt+p
+    board=$(WaitForWindow "$boardScreen")
+    mapfile -t keys < <(Times 7 shift+Tab)
+    Press "$board" "${keys[@]}"
+    ReplaceText "$shipDate"
+    Keys Return
+    PressButton "$board" alt+s
+    Press "$board" alt+p
+    pdf=$(WaitForPdf)
+    [[ $(basename "$pdf") == 'Delivery schedule 2026-03-11 Flatbed Truck.pdf' ]] ||
+        FailDay "the page is in $pdf."
+    ExpectPage "$pdf" "slips.$locale.txt"
+    Press "$board" alt+m
+    menuWindow=$(WaitForWindow "$menuScreen")
+}
+
+LeaveWithBackup() {
+    local name
+    LeaveProgram "$menuWindow"
+    # Of the exit's list, what the sample business has.
+    for name in CustomerData MyBusinessData Phone PrintColors; do
+        cp "$expected/$name.txt" "$expected/Backup"
+    done
+}
+
 customersScreen='Customer Selection       '
 slipScreen='Delivery Creation'
 menuWindow=''
@@ -182,9 +216,26 @@ ExpectOneTimeSlip "$expected/TesselDelivery"
 ExpectPersonalName "$expected"
 SetTextFile "$expected/NQDeliveryNo.txt" 20260063
 ExpectFolder 'after the one-time slip'
-LeaveProgram "$menuWindow"
-# Of the exit's list, what the sample business has.
-for name in CustomerData MyBusinessData Phone PrintColors; do
-    cp "$expected/$name.txt" "$expected/Backup"
-done
+PrintDay
+# The board shows the first invoice number of the year, which begins the counter.
+SetTextFile "$expected/NXInvoiceNo.txt" 20260001
+ExpectFolder 'after the print'
+LeaveWithBackup
 ExpectFolder 'after the exit'
+
+SetPlayDate "$laterDay"
+StartPlay "$business"
+WaitForTitle
+# The recurring slip is kept, and so it moves on; the other one goes with a notice.
+AnswerNext "$recurringQuestion" alt+n
+AnswerNext "$notice" Return
+ExpectRecurringHeader "$expected/TesselDelivery" "$nextDate"
+AnswerNext "$notice" Return
+rm "$expected"/TesselDelivery/{Deliveries,DeliveryItems}/$oneTimeSlip.txt
+Continue
+# The start writes this file anew, and its safety copy goes until the next exit.
+rm "$expected/Backup/Phone.txt"
+ExpectFolder 'after the start of the later day'
+menuWindow=$(WaitForWindow "$menuScreen")
+LeaveWithBackup
+ExpectFolder 'after the second exit'
