@@ -193,14 +193,24 @@ void frmDelivery::Show() {
         items->hide();
     setup->ShowFields(form);
     items->ShowFields(form);
-    cmdInvoice[DeliverySetupPanel::Menu]->setVisible(form.fraSetup);
-    cmdExit->setVisible(!form.fraSetup);
-    setupFoot->setVisible(form.fraSetup);
-    itemsFoot->setVisible(!form.fraSetup);
+    ShowFoot();
     ShowTemplates();
     ShowWhere();
     MoveFocus();
     isShowing = false;
+}
+
+/// Here too what goes is hidden first: both feet are wider than a small desktop.
+void frmDelivery::ShowFoot() {
+    QPushButton* cmdMenu = cmdInvoice[DeliverySetupPanel::Menu];
+    for (QWidget* control : {static_cast<QWidget*>(cmdMenu), setupFoot}) {
+        if (!form.fraSetup)
+            control->hide();
+    }
+    cmdExit->setVisible(!form.fraSetup);
+    itemsFoot->setVisible(!form.fraSetup);
+    cmdMenu->setVisible(form.fraSetup);
+    setupFoot->setVisible(form.fraSetup);
 }
 
 void frmDelivery::ShowTemplates() {

@@ -39,6 +39,7 @@ private:
     QWidget* FieldInHand() const;
     void Run(const std::function<void()>& rule);
     void Show();
+    void ShowFoot();
     void ShowTemplates();
     void ShowWhere();
     void MoveFocus();

@@ -249,6 +249,18 @@ TEST_F(DeliveryScreen, ScreenIsWholeOnASmallDesktop) {
     EXPECT_LE(body->width(), body->parentWidget()->width());
 }
 
+TEST_F(DeliveryScreen, GoingBetweenItsStagesDoesNotWidenTheWindow) {
+    Open();
+    Screen* screen = screens.Find(delivery);
+    const QSize small(940, 700);
+    screen->resize(small);
+    for (const QString& stage : {u"mnuItems"_s, u"mnuSetup"_s, u"mnuItems"_s}) {
+        Menu(stage)->trigger();
+        QTest::qWait(0);
+        EXPECT_EQ(screen->size(), small) << stage.toStdString();
+    }
+}
+
 TEST_F(DeliveryScreen, TabFollowsTheEye) {
     folder.Write(templateFiles + u"Week.txt"_s, {});
     Open();

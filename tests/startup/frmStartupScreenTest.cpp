@@ -222,6 +222,14 @@ TEST_F(StartupScreen, ProductsRoutineShowsTheProducts) {
     EXPECT_TRUE(IsShown(ScreenName::frmServices));
 }
 
+TEST_F(StartupScreen, ComingBackLeavesTheFocusOnTheRoutineLastUsed) {
+    WriteMasterFiles();
+    screens.Show(menu);
+    Click(menu, u"lblSub(6)"_s);
+    screens.GoFrom(ScreenName::frmServices, menu);
+    EXPECT_EQ(screens.Find(menu)->focusWidget(), Routine(6));
+}
+
 TEST_F(StartupScreen, ReportRoutinesShowTheirScreens) {
     WriteMasterFiles();
     const std::pair<int, ScreenName> reports[] = {{7, ScreenName::frmTaxForm},
