@@ -520,7 +520,8 @@ void BasicDiskRoutines::ReadAt(const Random& random, off_t start, void* bytes, s
             break;
         done += size_t(count);
     }
-    std::memset(target + done, 0, size - done);
+    if (done < size)
+        std::memset(target + done, 0, size - done);
 }
 
 void BasicDiskRoutines::WriteRecord(qint16 fileNumber, qint32 recordNumber, const void* record,
