@@ -62,7 +62,7 @@ static void PeakMemoryWithSlips(benchmark::State& state) {
     {
         BenchOffice office(full.Path());
         for (int number = 1; number <= slips; ++number)
-            WriteHeader(office.rules, {.number = SlipNumber(number), .date = u"3/16/2099"_s});
+            WriteSlip(office.rules, {.number = SlipNumber(number), .date = u"3/16/2099"_s});
     }
     // Without customers the start would wait for an answer.
     for (const BenchFolder* folder : {&empty, &full})

@@ -164,7 +164,7 @@ private:
     void WriteSlips();
     void WriteSlip(QDate date, const SampleOrder& order);
     SlipHeader HeaderOf(QDate date, const SampleOrder& order) const;
-    void WriteItems(const SampleOrder& order);
+    void StoreSlip(const SlipHeader& header, const SampleOrder& order);
 
     SetDay clock;
     NobodyThere nobody;
@@ -334,8 +334,7 @@ void SampleBusiness::WriteSlips() {
 }
 
 void SampleBusiness::WriteSlip(QDate date, const SampleOrder& order) {
-    slips.WriteSlipHeader(HeaderOf(date, order));
-    WriteItems(order);
+    StoreSlip(HeaderOf(date, order), order);
     slips.UpdateDeliveryCounter();
 }
 
@@ -371,7 +370,7 @@ SlipHeader SampleBusiness::HeaderOf(QDate date, const SampleOrder& order) const 
     return header;
 }
 
-void SampleBusiness::WriteItems(const SampleOrder& order) {
+void SampleBusiness::StoreSlip(const SlipHeader& header, const SampleOrder& order) {
     GridModel grid({u"Units"_s, u"Description"_s, u"Unit Price"_s, u"Total"_s});
     Currency total;
     int count = 0;
@@ -391,8 +390,7 @@ void SampleBusiness::WriteItems(const SampleOrder& order) {
         grid.SetText(count, 3, lineTotal);
         total += ToCurrency(lineTotal);
     }
-    slips.WriteSlipItems(grid, QString::number(slips.NextSlipNumber), qint16(count),
-                         CurrencyText(total));
+    slips.StoreSlip(header, grid, qint16(count), CurrencyText(total));
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "support/Comparison.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
@@ -19,7 +19,7 @@ int main(int argumentCount, char** arguments) {
     qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
     qputenv("CUPS_SERVER", "/nonexistent/cups.sock");
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argumentCount, arguments);
+    const QApplication application(argumentCount, arguments);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
     PrintSummary();

@@ -24,11 +24,11 @@ BenchOffice::BenchOffice(const QString& dataFolder)
     rules.setup.LoadAll();
 }
 
-void WriteHeader(Office& office, const BenchSlip& slip) {
+SlipHeader HeaderOf(const BenchSlip& slip) {
     SlipHeader header;
     header[SlipLine::SlipNumber] = slip.number;
     header[SlipLine::Date] = slip.date;
-    header[SlipLine::Time] = u"08:30am"_s;
+    header[SlipLine::Time] = slip.time;
     header[SlipLine::Recurring] = slip.recurring;
     header[SlipLine::Frequency] = slip.frequency;
     header[SlipLine::Vehicle] = slip.vehicle;
@@ -39,11 +39,10 @@ void WriteHeader(Office& office, const BenchSlip& slip) {
     header.soldTo = {slip.customer, u"12 Mill Road"_s, {}, u"Springfield"_s, u"IL"_s, u"62704"_s};
     header.deliverTo = {slip.customer, u"9 Elm Street"_s, u"Apt 4"_s,
                         u"Riverton"_s, u"IL"_s,           u"62561"_s};
-    office.slips.WriteSlipHeader(header);
-    office.disk.CloseAllFiles();
+    return header;
 }
 
-void WriteItems(Office& office, const BenchSlip& slip, int items) {
+void WriteSlip(Office& office, const BenchSlip& slip, int items) {
     GridModel grid({u"Units"_s, u"Description"_s, u"Price"_s, u"Total"_s});
     grid.SetRows(items + 1);
     for (int row = 1; row <= items; ++row) {
@@ -52,8 +51,8 @@ void WriteItems(Office& office, const BenchSlip& slip, int items) {
         grid.SetText(row, 2, u"$2.00"_s);
         grid.SetText(row, 3, u"$%1.00"_s.arg(2 * row));
     }
-    office.slips.WriteSlipItems(grid, slip.number, qint16(items),
-                                u"$%1.00"_s.arg(items * (items + 1)));
+    office.slips.StoreSlip(HeaderOf(slip), grid, qint16(items),
+                           u"$%1.00"_s.arg(items * (items + 1)));
 }
 
 QString SlipNumber(int number) {

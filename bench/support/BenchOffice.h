@@ -28,11 +28,13 @@ public:
 /// came.
 class NoSayer : public Operator {
 public:
+    /// The answer to input boxes; none for a cancel.
+    std::optional<QString> Input;
     std::optional<std::chrono::steady_clock::time_point> FirstMessage;
 
     Answer MsgBox(const QString& text, Buttons buttons, const QString& title) override;
     std::optional<QString> InputBox(const QString&, const QString&, const QString&) override {
-        return {};
+        return Input;
     }
     std::optional<QString> AskForFile(const QString&) override { return {}; }
     std::optional<quint32> AskForColor(quint32) override { return {}; }
@@ -73,14 +75,15 @@ struct BenchOffice {
 struct BenchSlip {
     QString number;
     QString date = QStringLiteral("3/16/2026");
+    QString time = QStringLiteral("08:30am");
     QString recurring = QStringLiteral("False");
     QString frequency = {};
     QString vehicle = QStringLiteral("Flatbed Truck");
     QString customer = QStringLiteral("Corner Grocery");
 };
 
-void WriteHeader(Office& office, const BenchSlip& slip);
-void WriteItems(Office& office, const BenchSlip& slip, int items);
+SlipHeader HeaderOf(const BenchSlip& slip);
+void WriteSlip(Office& office, const BenchSlip& slip, int items = 0);
 
 /// "20260001" for 1, and so on.
 QString SlipNumber(int number);

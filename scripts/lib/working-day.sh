@@ -234,7 +234,7 @@ OpenMenu() {
 # to its first.
 ChooseFirstVehicle() {
     local window=$1
-    xdotool mousemove --window "$window" 100 219 click 1
+    xdotool mousemove --window "$window" 100 233 click 1
     Press "$window" End Home
     MoveMouseAway
 }

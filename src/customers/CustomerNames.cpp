@@ -28,15 +28,17 @@ bool IsBusiness(const CustomerRecord& customer) {
 QString FullPersonalName(const QString& title, const QString& first, const QString& middle,
                          const QString& last) {
     QString name;
-    const auto append = [&name](const QString& part, const QString& behind) {
+    const auto append = [&name](const QString& part, QLatin1StringView behind) {
         const QString trimmed = TrimBlanks(part);
-        if (!trimmed.isEmpty())
-            name += trimmed + behind;
+        if (trimmed.isEmpty())
+            return;
+        name += trimmed;
+        name += behind;
     };
-    append(title, u" "_s);
-    append(first, u" "_s);
-    append(middle, u". "_s);
-    append(last, QString());
+    append(title, " "_L1);
+    append(first, " "_L1);
+    append(middle, ". "_L1);
+    append(last, {});
     return name;
 }
 

@@ -51,8 +51,7 @@ void CustomerReport::Print() {
     surface.JobName = u"Customer report "_s + clock.Today().toString(Qt::ISODate);
     printer.AskForPrinter();
     const BusyPointer busy(user);
-    surface.SetPage(Orientation::Landscape, settings.ckColor != 0);
-    surface.FontName = settings.DocumentFont;
+    printer.PreparePaper(Orientation::Landscape, settings.ckColor != 0);
     try {
         PrintAll();
     } catch (...) {

@@ -153,12 +153,16 @@ int CustomerSearch::FillGrid(SearchField field, const QString& searchText) {
             !(isInCodePage && Occurs(wanted, FieldOf(customer, field))))
             return;
         ++foundCount;
-        fgCustomersFound.SetRows(foundCount + 1);
+        // By twice as many each time: adding thousands one by one would take longer than reading
+        // their records.
+        if (fgCustomersFound.DataRows() < foundCount)
+            fgCustomersFound.SetRows(std::min(2 * foundCount, count) + 1);
         fgCustomersFound.SetText(foundCount, int(FoundColumn::Name), DisplayName(customer));
         fgCustomersFound.SetText(foundCount, int(FoundColumn::Telephone),
                                  ShownText(customer.Phone));
         fgCustomersFound.SetText(foundCount, int(FoundColumn::Record), QString::number(number));
     });
+    fgCustomersFound.SetRows(foundCount + 1);
     fgCustomersFound.SetCurrent(foundCount > 0 ? 1 : 0, 0);
     return foundCount;
 }

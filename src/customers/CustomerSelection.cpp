@@ -29,9 +29,10 @@ constexpr int shortestName = 2;
 
 CustomerSelection::CustomerSelection(BasicDiskRoutines& diskRoutines, CustomerFiles& customerFiles,
                                      const LiveSettings& liveSettings, Operator& person,
-                                     DeliveryCustomer& customerOfDelivery)
+                                     DeliveryCustomer& customerOfDelivery,
+                                     AuxiliaryData& auxiliaryData)
     : disk(diskRoutines), files(customerFiles), settings(liveSettings), user(person),
-      delivery(customerOfDelivery) {}
+      delivery(customerOfDelivery), auxiliary(auxiliaryData) {}
 
 const QStringList& CustomerSelection::Titles() {
     static const QStringList titles = {u"Mr/Mrs"_s, u"Mr."_s, u"Mrs"_s, u"Ms"_s, u"Miss"_s};
@@ -53,6 +54,7 @@ void CustomerSelection::Load() {
     Advance = {};
     saved.reset();
     LoadStates();
+    auxiliary.Load();
     Fields = {};
     lbLType = BusinessType();
     ShowRecordArea();
@@ -130,6 +132,7 @@ void CustomerSelection::ShowRecordArea() {
 void CustomerSelection::BringRecordToFront() {
     fraSearchVisible = false;
     fraCustomersFoundVisible = false;
+    fraAuxVisible = false;
     if (Name == NamePlace::AccountList)
         Name = IsBusiness() ? NamePlace::BusinessName : NamePlace::PersonalName;
 }
@@ -148,6 +151,7 @@ void CustomerSelection::ShowCustomer() {
     // So an individual's record comes to hold his full name as BusinessName with the next save.
     if (Fields[CustomerText::BusinessName].isEmpty())
         Fields[CustomerText::BusinessName] = FullPersonalName(files.Customer);
+    auxiliary.LoadAuxData(Fields[CustomerText::AcctNo]);
     files.ReadContractAndCycle(CurrentRecord);
 }
 

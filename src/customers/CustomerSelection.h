@@ -1,6 +1,7 @@
 #pragma once
 
 #include "customers/AutoAdvance.h"
+#include "customers/AuxiliaryData.h"
 #include "customers/CustomerFiles.h"
 #include "customers/CustomerLists.h"
 #include "setup/LiveSettings.h"
@@ -54,6 +55,7 @@ enum class FocusOn {
     SelectButton,
     SearchText,
     FoundGrid,
+    AuxText,
 };
 
 /// Places of the buttons in the array cmdNav that move through the records.
@@ -74,7 +76,7 @@ class CustomerSelection {
 public:
     CustomerSelection(BasicDiskRoutines& diskRoutines, CustomerFiles& customerFiles,
                       const LiveSettings& liveSettings, Operator& person,
-                      DeliveryCustomer& customerOfDelivery);
+                      DeliveryCustomer& customerOfDelivery, AuxiliaryData& auxiliaryData);
 
     CustomerFields Fields;
     /// Captions.
@@ -85,10 +87,11 @@ public:
     NamePlace Name = NamePlace::BusinessName;
     FocusOn Focus = FocusOn::Nothing;
     bool UsaAddressStyle = true;
-    /// The search and the list of customers lie over the record. At most one of them and the list
-    /// of names is in front.
+    /// The search, the list of customers and the auxiliary data lie over the record. At most one of
+    /// them and the list of names is in front.
     bool fraSearchVisible = false;
     bool fraCustomersFoundVisible = false;
+    bool fraAuxVisible = false;
 
     AccountNames cboAccounts;
     CityNames cboCity;
@@ -155,7 +158,8 @@ public:
     /// Command1(1) and Command1(2).
     void FindInNameList();
     void ShowRecordArea();
-    /// Puts the record in front of the search, the customers found and the list of names.
+    /// Puts the record in front of the search, the customers found, the auxiliary data and the list
+    /// of names.
     void BringRecordToFront();
     /// What completes the text in the list of names to its first entry that begins with it; nothing
     /// when there is none.
@@ -192,6 +196,7 @@ private:
     const LiveSettings& settings;
     Operator& user;
     DeliveryCustomer& delivery;
+    AuxiliaryData& auxiliary;
     qint16 acctState = 0;
     /// What the record on the screen was last saved with; nothing since it has been shown. A second
     /// save would put the defaults over its contract and cycle.

@@ -2,6 +2,7 @@
 
 #include "platform/Form.h"
 #include "platform/Grid.h"
+#include "platform/Keys.h"
 
 #include <QHeaderView>
 #include <QLabel>
@@ -9,12 +10,6 @@
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr ushort enterKey = 13;
-
-} // namespace
 
 CustomersFoundPanel::CustomersFoundPanel(CustomerSearch& customerSearch)
     : Card(customerSearch.fraCustomersFound), search(customerSearch),

@@ -2,6 +2,7 @@
 
 #include "customers/AccountBox.h"
 #include "customers/AutoAdvancePanel.h"
+#include "customers/AuxiliaryPanel.h"
 #include "customers/CustomerSearchPanel.h"
 #include "customers/CustomersFoundPanel.h"
 #include "platform/EntryField.h"
@@ -48,8 +49,6 @@ constexpr qint16 newDelivery = 5;
 /// The place behind the area code and exchange that the program proposes.
 constexpr qsizetype proposedPhone = 8;
 
-const QString laterVersion = u"Not part of this version yet"_s;
-
 /// The forms of the card stand one over the other.
 Form* MakeForm() {
     auto* form = new Form;
@@ -79,7 +78,7 @@ frmCustomer::frmCustomer(Office& theOffice, Screens& allScreens)
     : Screen(u"frmCustomer"_s, u"Customer Selection       "_s, u"TesselDelivery"_s,
              u"TesselCycleInvoicer"_s),
       office(theOffice), screens(allScreens), customers(theOffice.customers),
-      search(theOffice.customerSearch) {
+      search(theOffice.customerSearch), auxiliary(theOffice.auxiliaryWindow) {
     MakeMenus();
     auto* side = new QVBoxLayout;
     side->setSpacing(cardGap);
@@ -88,10 +87,11 @@ frmCustomer::frmCustomer(Office& theOffice, Screens& allScreens)
     side->addWidget(MakeMoveCard());
     side->addStretch(1);
     auto* main = new QVBoxLayout;
-    // One of the three is in front. The list takes all the room there is.
+    // One of them is in front. The list and the auxiliary data take all the room there is.
     main->addWidget(account);
     main->addWidget(MakeSearch());
     main->addWidget(MakeFound(), longListStretch);
+    main->addWidget(MakeAux(), longListStretch);
     main->addStretch(1);
     auto* columns = new QHBoxLayout(Body());
     columns->setContentsMargins(bodySide, bodyTop, bodySide, bodyTop);
@@ -107,6 +107,7 @@ frmCustomer::frmCustomer(Office& theOffice, Screens& allScreens)
 
     customers.Load();
     search.Load();
+    auxiliary.Load();
     cboStates->addItems(customers.cboStates);
     ShowFields();
 }
@@ -118,25 +119,20 @@ void frmCustomer::Activate() {
 QAction* frmCustomer::AddItem(QMenu* menu, const QString& name, const QString& caption,
                               const std::function<void()>& action) {
     QAction* item = Named(menu->addAction(caption), name);
-    if (action) {
-        connect(item, &QAction::triggered, this, [this, action] { Run(action); });
-    } else {
-        item->setEnabled(false);
-        item->setToolTip(laterVersion);
-    }
+    connect(item, &QAction::triggered, this, [this, action] { Run(action); });
     return item;
 }
 
 void frmCustomer::MakeMenus() {
     QMenu* menu = menuBar()->addMenu(u"Customer"_s);
-    menu->setToolTipsVisible(true);
     mnuAdd =
         AddItem(menu, u"mnuAdd"_s, u"Add a New Customer"_s, [this] { customers.AddNewCustomer(); });
     mnuDelete = AddItem(menu, u"mnuDelete"_s, u"DELETE This customer"_s,
                         [this] { customers.DeleteCustomer(); });
     menu->addSeparator();
     AddItem(menu, u"mnuPrint"_s, u"Print Customers"_s, [this] { search.mnuPrint_Click(); });
-    AddItem(menu, u"mnuAux"_s, u"Toggle Data Window"_s, {});
+    mnuAux =
+        AddItem(menu, u"mnuAux"_s, u"Toggle Data Window"_s, [this] { auxiliary.mnuAux_Click(); });
 }
 
 QPushButton* frmCustomer::MakeButton(const QString& name, const QString& caption,
@@ -372,6 +368,17 @@ QWidget* frmCustomer::MakeFound() {
     return fraCustomersFound;
 }
 
+QWidget* frmCustomer::MakeAux() {
+    fraAux = new AuxiliaryPanel(office.auxiliaryData, auxiliary, customers.fraAux);
+    connect(fraAux, &AuxiliaryPanel::ButtonClicked, this,
+            [this](AuxButton index) { Run([this, index] { auxiliary.cmdSaveAux_Click(index); }); });
+    connect(fraAux, &AuxiliaryPanel::BoxDoubleClicked, this,
+            [this](int box) { Run([this, box] { auxiliary.txtAux_DblClick(box); }); });
+    connect(fraAux, &AuxiliaryPanel::HeadingDoubleClicked, this,
+            [this](int box) { Run([this, box] { auxiliary.txtHeading_DblClick(box); }); });
+    return fraAux;
+}
+
 /// From the top of the record down, then the buttons beside it, then the foot.
 void frmCustomer::SetTabOrder() {
     QList<QWidget*> order = {cmdAcctType,
@@ -393,7 +400,7 @@ void frmCustomer::SetTabOrder() {
                              Image1,
                              Text(CustomerText::Cell),
                              Text(CustomerText::Email)};
-    order << fraSearch->TabStops() << fraCustomersFound->TabStops();
+    order << fraSearch->TabStops() << fraCustomersFound->TabStops() << fraAux->TabStops();
     for (const auto& [index, button] : Command1)
         order += button;
     for (const Move move : {Move::First, Move::Previous, Move::Next, Move::Last, Move::Quarter,
@@ -440,6 +447,7 @@ void frmCustomer::ReadFields() {
     customers.Fields.txtAdd3 = txtAdd3->text();
     customers.Fields.txtAdd4 = txtAdd4->text();
     fraSearch->Read();
+    fraAux->Read();
 }
 
 void frmCustomer::ShowFields() {
@@ -490,9 +498,12 @@ void frmCustomer::ShowWhere() {
 void frmCustomer::ShowFront() {
     fraSearch->Show();
     fraCustomersFound->Show();
-    account->setVisible(!customers.fraSearchVisible && !customers.fraCustomersFoundVisible);
+    fraAux->Show();
+    account->setVisible(!customers.fraSearchVisible && !customers.fraCustomersFoundVisible &&
+                        !customers.fraAuxVisible);
     fraSearch->setVisible(customers.fraSearchVisible);
     fraCustomersFound->setVisible(customers.fraCustomersFoundVisible);
+    fraAux->setVisible(customers.fraAuxVisible);
     cmdAutoAdvance->setText(customers.Advance.Caption());
     autoAdvancePanel->Show();
 }
@@ -505,6 +516,7 @@ void frmCustomer::ShowEnabled() {
     cmdCustomer[CancelAddNew]->setVisible(customers.IsCancelVisible);
     mnuAdd->setEnabled(customers.mnuAddEnabled);
     mnuDelete->setEnabled(customers.mnuDeleteEnabled);
+    mnuAux->setEnabled(customers.mnuAuxEnabled);
 }
 
 void frmCustomer::MoveFocus() {
@@ -534,6 +546,9 @@ void frmCustomer::MoveFocus() {
         break;
     case FocusOn::FoundGrid:
         fraCustomersFound->FocusGrid();
+        break;
+    case FocusOn::AuxText:
+        fraAux->FocusText();
         break;
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "customers/AuxiliaryWindow.h"
 #include "customers/CustomerSearch.h"
 #include "platform/Screen.h"
 
@@ -10,6 +11,7 @@
 
 class AccountBox;
 class AutoAdvancePanel;
+class AuxiliaryPanel;
 class CustomerSearchPanel;
 class CustomersFoundPanel;
 class EntryBox;
@@ -56,6 +58,7 @@ private:
     QWidget* MakeAutoAdvance();
     QWidget* MakeSearch();
     QWidget* MakeFound();
+    QWidget* MakeAux();
 
     EntryField* MakeText(CustomerText place, const QString& accessibleName, double width,
                          int limit);
@@ -96,6 +99,7 @@ private:
     Screens& screens;
     CustomerSelection& customers;
     CustomerSearch& search;
+    AuxiliaryWindow& auxiliary;
     /// A rule is at work; a message of it may be in front.
     bool isRunning = false;
     /// While the screen shows what a rule has done, no field is left by the operator.
@@ -123,6 +127,8 @@ private:
     QWidget* account = nullptr;
     CustomerSearchPanel* fraSearch = nullptr;
     CustomersFoundPanel* fraCustomersFound = nullptr;
+    AuxiliaryPanel* fraAux = nullptr;
     QAction* mnuAdd = nullptr;
     QAction* mnuDelete = nullptr;
+    QAction* mnuAux = nullptr;
 };

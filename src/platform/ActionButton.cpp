@@ -14,8 +14,8 @@ ActionButton::ActionButton(const QString& caption, const std::function<void()>& 
 }
 
 void ActionButton::mousePressEvent(QMouseEvent* event) {
-    // A message about the field that this press has left has taken the release of the mouse; the
-    // button would stay down.
-    if (QApplication::mouseButtons() != Qt::NoButton)
+    // The press has left the field before it. A message about that has taken the release of the
+    // mouse, and the button would stay down; or the operator has been called back to the field.
+    if (QApplication::mouseButtons() != Qt::NoButton && window()->focusWidget() == this)
         QPushButton::mousePressEvent(event);
 }

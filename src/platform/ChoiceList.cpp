@@ -18,8 +18,13 @@ void ChoiceList::keyPressEvent(QKeyEvent* event) {
 }
 
 void ChoiceList::mousePressEvent(QMouseEvent* event) {
-    if (indexAt(event->position().toPoint()).isValid())
-        QListView::mousePressEvent(event);
+    const QModelIndex pressed = indexAt(event->position().toPoint());
+    if (!pressed.isValid())
+        return;
+    const bool isChosen = pressed == currentIndex();
+    QListView::mousePressEvent(event);
+    if (isChosen && event->button() == Qt::LeftButton)
+        Q_EMIT ChosenAgain();
 }
 
 /// Entries may have been given their places before the program's look had a say in them.

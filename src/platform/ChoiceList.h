@@ -11,6 +11,10 @@ class ChoiceList : public QListView {
 public:
     explicit ChoiceList(QWidget* parent = nullptr);
 
+Q_SIGNALS:
+    /// A press on the entry that was chosen already, which changes no choice.
+    void ChosenAgain();
+
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

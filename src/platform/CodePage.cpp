@@ -22,6 +22,8 @@ bool IsMiddleByte(unsigned byte) {
 
 std::optional<char> ByteOf(QChar character) {
     const unsigned code = character.unicode();
+    if (code < firstMiddleByte)
+        return char(code);
     if (code <= 0xff && !IsMiddleByte(code))
         return char(code);
     const auto found =
@@ -33,16 +35,28 @@ std::optional<char> ByteOf(QChar character) {
 
 } // namespace
 
-QByteArray ToCodePage(QStringView text) {
-    QByteArray bytes;
-    bytes.reserve(text.size());
-    for (qsizetype i = 0; i < text.size(); ++i) {
+size_t EncodeInto(char* bytes, size_t room, QStringView text) {
+    char* next = bytes;
+    char* const end = bytes + room;
+    for (qsizetype i = 0; i < text.size() && next < end; ++i) {
         // The two halves of a rare character are one character.
         const bool isSecondHalf =
-            i > 0 && text[i].isLowSurrogate() && text[i - 1].isHighSurrogate();
+            text[i].isLowSurrogate() && i > 0 && text[i - 1].isHighSurrogate();
         if (!isSecondHalf)
-            bytes += ByteOf(text[i]).value_or('?');
+            *next++ = ByteOf(text[i]).value_or('?');
     }
+    return size_t(next - bytes);
+}
+
+void AppendInCodePage(QByteArray& bytes, QStringView text) {
+    const qsizetype start = bytes.size();
+    bytes.resize(start + text.size());
+    bytes.truncate(start + qsizetype(EncodeInto(bytes.data() + start, size_t(text.size()), text)));
+}
+
+QByteArray ToCodePage(QStringView text) {
+    QByteArray bytes;
+    AppendInCodePage(bytes, text);
     return bytes;
 }
 

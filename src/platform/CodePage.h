@@ -8,5 +8,9 @@
 
 /// A character that the code page lacks becomes "?".
 QByteArray ToCodePage(QStringView text);
+/// The same into `room` bytes: what doesn't fit is cut. Returns how many bytes it takes.
+size_t EncodeInto(char* bytes, size_t room, QStringView text);
+/// The same, behind what `bytes` holds: for texts of many lines.
+void AppendInCodePage(QByteArray& bytes, QStringView text);
 QString FromCodePage(QByteArrayView bytes);
 bool IsInCodePage(QStringView text);

@@ -37,12 +37,19 @@ DatePicker::DatePicker(QWidget* parent) : QLineEdit(parent) {
 }
 
 void DatePicker::SetDate(QDate newDate) {
+    // A screen shows its values anew while the operator stands in the field, at each click into it
+    // for example: caret and half a date stay.
+    if (newDate != date || !hasFocus())
+        ShowDate(newDate);
+}
+
+void DatePicker::ShowDate(QDate newDate) {
     date = newDate;
     setText(RegionalFormats::Current().ShortDate(date));
 }
 
 void DatePicker::Enter(QDate newDate) {
-    SetDate(newDate);
+    ShowDate(newDate);
     selectAll();
     Q_EMIT Changed(newDate);
 }
@@ -50,7 +57,7 @@ void DatePicker::Enter(QDate newDate) {
 void DatePicker::TakeTyped() {
     const auto typed = RegionalFormats::Current().ParseDate(text());
     if (!typed) {
-        SetDate(date);
+        ShowDate(date);
         Q_EMIT Refused();
     } else if (*typed != date) {
         Enter(*typed);
@@ -85,7 +92,8 @@ void DatePicker::OpenCalendar() {
     auto* rows = new QVBoxLayout(popup);
     rows->setContentsMargins(1, 1, 1, 1);
     rows->addWidget(calendar);
-    connect(popup, &QObject::destroyed, this, &DatePicker::Dismissed);
+    // Queued, since the calendar also goes when the field itself does.
+    connect(popup, &QObject::destroyed, this, &DatePicker::Dismissed, Qt::QueuedConnection);
     connect(calendar, &MonthView::DateClick, this, [this, popup](QDate picked) {
         popup->disconnect(this);
         popup->close();

@@ -13,7 +13,8 @@ public:
     explicit DatePicker(QWidget* parent = nullptr);
 
     QDate Date() const { return date; }
-    /// Shows a date without telling of it.
+    /// Shows a date without telling of it. What is being typed is not disturbed by the date that
+    /// stands already.
     void SetDate(QDate newDate);
     /// The calendar offers no day before it. What is typed is for the screen to correct.
     void SetEarliest(QDate earliestDate) { earliest = earliestDate; }
@@ -31,6 +32,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void ShowDate(QDate newDate);
     void Enter(QDate newDate);
     void OpenCalendar();
 

@@ -3,6 +3,7 @@
 #include "platform/ColorNumber.h"
 #include "platform/PrinterDialog.h"
 #include "platform/ProgramTitle.h"
+#include "platform/Theme.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -12,6 +13,7 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPrinter>
+#include <QProgressBar>
 #include <QProgressDialog>
 
 using namespace Qt::StringLiterals;
@@ -130,8 +132,15 @@ void DesktopOperator::ShowBusy(bool busy) {
 
 void DesktopOperator::BeginProgress(const QString& work, int steps) {
     constexpr int milliSecondsUnshown = 500;
+    constexpr double progressWidth = 24;
     progress = std::make_unique<QProgressDialog>(work, u"Cancel"_s, 0, steps,
                                                  QApplication::activeWindow());
+    // The bar is too flat for its percentage.
+    auto* bar = new QProgressBar;
+    bar->setTextVisible(false);
+    bar->setRange(0, steps);
+    progress->setBar(bar);
+    progress->setMinimumWidth(Em(progressWidth));
     progress->setObjectName(u"progressDialog"_s);
     progress->setWindowTitle(ProgramTitle());
     // Nothing else of the program can be used meanwhile.

@@ -41,8 +41,9 @@ void GridModel::SetRows(int rows) {
 
 void GridModel::ClearGrid() {
     const Refill refill(*this);
-    SetRows(1);
+    // Not by way of the heading alone, which would make that current.
     SetRows(2);
+    cells[1].assign(size_t(Columns()), {});
 }
 
 void GridModel::RemoveRow(int row) {

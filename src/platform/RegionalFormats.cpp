@@ -313,6 +313,9 @@ bool RegionalFormats::IsGroupMark(QChar character) const {
 }
 
 std::optional<QByteArray> RegionalFormats::PlainNumber(QStringView text) const {
+    // Most numbers are counts, with nothing regional about them.
+    if (!text.isEmpty() && std::all_of(text.begin(), text.end(), IsAsciiDigit))
+        return text.toLatin1();
     QString rest = WithPlainBlanks(InPlainCharacters(text.toString())).trimmed();
     const bool inParentheses = rest.startsWith(u'(') && rest.endsWith(u')');
     if (inParentheses)

@@ -97,15 +97,20 @@ QString InventoryPrinter::JobName(InventoryKind kind) const {
     return TitleOf(kind) + u' ' + clock.Today().toString(Qt::ISODate);
 }
 
+void InventoryPrinter::SetPage(Orientation orientation) {
+    printer.PreparePaper(orientation, settings.ckColor != 0);
+    printer.SetPrintColor(PrintColor::Text);
+}
+
 void InventoryPrinter::PrintReport() {
-    printer.PreparePrinter(Orientation::Landscape, settings.ckColor != 0);
+    SetPage(Orientation::Landscape);
     PrintPageHeader(InventoryKind::Report, {});
     PrintRows(InventoryKind::Report, {}, [this](int row) { PrintReportLine(row); });
     surface.EndJob();
 }
 
 void InventoryPrinter::PrintTallySheets() {
-    printer.PreparePrinter(Orientation::Portrait, settings.ckColor != 0);
+    SetPage(Orientation::Portrait);
     for (const QString& location : locations.txtTally) {
         if (!location.isEmpty())
             PrintTallySheet(location);

@@ -23,6 +23,7 @@ public:
     void PrintInventory(InventoryKind kind);
 
 private:
+    void SetPage(Orientation orientation);
     void PrintReport();
     void PrintTallySheets();
     void PrintTallySheet(const QString& location);

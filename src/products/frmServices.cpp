@@ -5,6 +5,7 @@
 #include "platform/EntryField.h"
 #include "platform/Form.h"
 #include "platform/Grid.h"
+#include "platform/Keys.h"
 #include "platform/Theme.h"
 #include "products/TallyFrame.h"
 #include "startup/Office.h"
@@ -35,7 +36,6 @@ constexpr double wideDescriptionWidth = 22;
 constexpr int categoryCharacters = 18;
 constexpr int longestDescription = 50;
 constexpr int longestCategory = 20;
-constexpr ushort enterKey = 13;
 
 enum FormColumn { LeftLabel, LeftField, RightLabel, RightField };
 

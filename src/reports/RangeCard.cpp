@@ -68,10 +68,8 @@ void RangeCard::ShowRange() {
 }
 
 void RangeCard::FinishEntry() {
-    for (DatePicker* picker : DTPicker1) {
-        if (picker->hasFocus())
-            picker->TakeTyped();
-    }
+    for (DatePicker* picker : DTPicker1)
+        picker->TakeTyped();
 }
 
 QString RangeCard::RangeText() const {

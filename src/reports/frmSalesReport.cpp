@@ -1,6 +1,6 @@
 #include "reports/frmSalesReport.h"
 
-#include "platform/Form.h"
+#include "platform/ChoiceList.h"
 #include "platform/Grid.h"
 #include "platform/Theme.h"
 #include "reports/ItemSalesReport.h"
@@ -12,6 +12,7 @@
 #include <QListView>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -25,6 +26,12 @@ constexpr double listHeight = 8;
 constexpr double gridHeight = 6;
 constexpr int lineShare = 3;
 constexpr int totalShare = 2;
+
+/// Makes room for the instructions, so that the screen need not be scrolled.
+void TakeWhatIsLeft(Grid* grid) {
+    grid->setMinimumHeight(Em(gridHeight));
+    grid->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+}
 
 } // namespace
 
@@ -77,11 +84,11 @@ QPushButton* frmSalesReport::MakeButton(Button index, const QString& caption, co
 
 QWidget* frmSalesReport::MakeProductCard() {
     auto* card = new Card(u"Select the products to include in the Report"_s);
-    lstSalesItems = Named(new QListView, u"lstSalesItems"_s);
+    lstSalesItems = Named(new ChoiceList, u"lstSalesItems"_s);
     lstSalesItems->setAccessibleName(u"Products to include in the Report"_s);
     lstSalesItems->setModel(&office.items.ProductNames);
-    lstSalesItems->setEditTriggers(QAbstractItemView::NoEditTriggers);
     lstSalesItems->setSelectionMode(QAbstractItemView::MultiSelection);
+    lstSalesItems->setProperty("multiSelect", true);
     // Thousands of names need not be measured.
     lstSalesItems->setUniformItemSizes(true);
     lstSalesItems->setMinimumHeight(Em(listHeight));
@@ -126,7 +133,7 @@ QWidget* frmSalesReport::MakeLineCard() {
     auto* card = new Card(u"Sales for Selected Products by Invoice"_s);
     fgSalesItems = Named(new Grid(report.fgSalesItems), u"fgSalesItems"_s);
     fgSalesItems->setAccessibleName(u"Sales for Selected Products by Invoice"_s);
-    fgSalesItems->setMinimumHeight(Em(gridHeight));
+    TakeWhatIsLeft(fgSalesItems);
     card->Rows()->addWidget(fgSalesItems, 1);
     return card;
 }
@@ -135,7 +142,7 @@ QWidget* frmSalesReport::MakeTotalCard() {
     auto* card = new Card(u"Total Sales for Selected Products"_s);
     fgTotals = Named(new Grid(report.fgTotals), u"fgTotals"_s);
     fgTotals->setAccessibleName(u"Total Sales for Selected Products"_s);
-    fgTotals->setMinimumHeight(Em(gridHeight));
+    TakeWhatIsLeft(fgTotals);
     card->Rows()->addWidget(fgTotals, 1);
     return card;
 }

@@ -4,6 +4,7 @@
 #include "platform/EntryField.h"
 #include "platform/Form.h"
 #include "platform/Grid.h"
+#include "platform/Keys.h"
 #include "platform/Theme.h"
 #include "schedule/AddedItems.h"
 #include "store/VerifyDataRoutines.h"
@@ -17,7 +18,6 @@ namespace {
 
 constexpr double productsHeight = 9;
 constexpr double quantityWidth = 7;
-constexpr ushort enterKey = 13;
 
 } // namespace
 

@@ -28,8 +28,6 @@ constexpr int bodySize = 10;
 /// Text heights that must be left on a page for it to be gone on with.
 constexpr int linesNeeded = 3;
 
-enum ItemColumn { UnitsColumn, ProductColumn, UnitCostColumn, ItemTotalColumn };
-
 QString CityLine(const std::array<QString, 6>& address) {
     return address[3] + u", "_s + address[4] + u' ' + address[5];
 }
@@ -140,11 +138,11 @@ void DeliverySchedulePrinter::PrintItemLine(int row) {
     // A long list of goods goes on on the next page rather than off the paper.
     if (surface.CurrentY + surface.TextHeight(u"ABCD"_s) > surface.PageHeight())
         NewSchedulePage();
-    const auto cell = [&](ItemColumn column) { return board.fgItems.Text(row, column); };
-    surface.PrintEndingAt(unitsEnd, cell(UnitsColumn));
-    printer.PrintAt(productColumn, cell(ProductColumn));
-    surface.PrintEndingAt(unitCostEnd, cell(UnitCostColumn));
-    surface.PrintEndingAt(itemTotalEnd, cell(ItemTotalColumn));
+    const auto cell = [&](SlipItemColumn column) { return board.fgItems.Text(row, int(column)); };
+    surface.PrintEndingAt(unitsEnd, cell(SlipItemColumn::Units));
+    printer.PrintAt(productColumn, cell(SlipItemColumn::Description));
+    surface.PrintEndingAt(unitCostEnd, cell(SlipItemColumn::UnitPrice));
+    surface.PrintEndingAt(itemTotalEnd, cell(SlipItemColumn::LineTotal));
     surface.PrintLine();
 }
 

@@ -1,33 +1,11 @@
 #include "schedule/InvoicePosting.h"
 
 #include "schedule/InvoiceRecords.h"
+#include "slips/DeliverySlipRoutines.h"
 #include "store/Conversions.h"
 #include "store/TextLines.h"
 
-#include <QHash>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-
-enum ItemColumn { UnitsColumn, ProductColumn };
-
-/// How often each description of the lines 1 to `lineCount` stands in the list of products. The
-/// list is gone through once for all lines: it can have thousands of names.
-QHash<QString, int> CountProducts(const GridModel& fgItems, int lineCount,
-                                  const QStringList& products) {
-    QHash<QString, int> counts;
-    for (int row = 1; row <= lineCount; ++row)
-        counts.insert(TrimBlanks(fgItems.Text(row, ProductColumn)), 0);
-    for (const QString& product : products) {
-        const auto found = counts.find(TrimBlanks(product));
-        if (found != counts.end())
-            ++*found;
-    }
-    return counts;
-}
-
-} // namespace
 
 InvoicePosting::InvoicePosting(BasicDiskRoutines& diskRoutines,
                                const QStringListModel& productNames, const Clock& machineClock)
@@ -40,21 +18,32 @@ qint32 InvoicePosting::NextSoldItem() {
                    u"counting the records of SoldItems.txt"_s);
 }
 
+const QHash<QString, int>& InvoicePosting::ProductCounts() {
+    const QStringList products = lstSalesItems.stringList();
+    if (!products.isSharedWith(countedProducts)) {
+        productCounts.clear();
+        for (const QString& product : products)
+            ++productCounts[TrimBlanks(product)];
+        countedProducts = products;
+    }
+    return productCounts;
+}
+
 void InvoicePosting::PostSoldItems(const GridModel& fgItems, int lineCount,
                                    const QString& invoiceNo) {
     qint64 number = NextSoldItem();
     disk.OpenRandom(soldItemsFile, sizeof(SoldItemRecord));
-    const QHash<QString, int> counts =
-        CountProducts(fgItems, lineCount, lstSalesItems.stringList());
+    const QHash<QString, int>& counts = ProductCounts();
+    const QString where = u"the units of an item line"_s;
     SoldItemRecord record{};
     record.SaleDate = clock.Today();
     record.InvoiceNo = invoiceNo;
     for (int row = 1; row <= lineCount; ++row) {
-        const QString description = TrimBlanks(fgItems.Text(row, ProductColumn));
-        for (int product = 0; product < counts.value(description); ++product) {
-            record.Description = description;
-            record.Units = ToInt16(fgItems.Text(row, UnitsColumn),
-                                   u"the units in line %1 of the invoice"_s.arg(row));
+        const QString description = TrimBlanks(fgItems.Text(row, int(SlipItemColumn::Description)));
+        const int products = counts.value(description);
+        record.Description = description;
+        for (int product = 1; product <= products; ++product) {
+            record.Units = ToInt16(fgItems.Text(row, int(SlipItemColumn::Units)), where);
             WriteRecord(disk, disk.DiskFile, ToInt32(double(number++)), record);
         }
     }

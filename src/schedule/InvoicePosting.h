@@ -6,6 +6,7 @@
 #include "store/Currency.h"
 
 #include <QDate>
+#include <QHash>
 #include <QString>
 #include <QStringListModel>
 
@@ -39,8 +40,14 @@ public:
 
 private:
     qint32 NextSoldItem();
+    /// How often each name stands in the list of products, counted anew when that has changed:
+    /// gone through for each invoice, thousands of names would cost more than all its records.
+    const QHash<QString, int>& ProductCounts();
 
     BasicDiskRoutines& disk;
     const QStringListModel& lstSalesItems;
     const Clock& clock;
+    /// The list that the counts are of.
+    QStringList countedProducts;
+    QHash<QString, int> productCounts;
 };

@@ -46,6 +46,7 @@ void InvoiceRun::PrintPage(bool isPopulated) {
         PassOver([this] { surface.AbandonJob(); });
 }
 
+/// In this order: what fails is skipped, and all bear the number that the last two move on.
 void InvoiceRun::Post() {
     PassOver([this] {
         posting.PostSoldItems(board.fgItems, board.fgItems.DataRows(), board.fraSlip.lblInvoice);

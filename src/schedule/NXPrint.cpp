@@ -2,6 +2,7 @@
 
 #include "platform/RuntimeFailure.h"
 #include "setup/AddressStyle.h"
+#include "slips/DeliverySlipRoutines.h"
 #include "store/Conversions.h"
 
 #include <algorithm>
@@ -69,7 +70,6 @@ constexpr quint32 green = 65280;
 
 const QString invoiceTitle = u"INVOICE"_s;
 
-enum ItemColumn { UnitsColumn, ProductColumn, UnitCostColumn, ItemTotalColumn };
 enum TotalsRow { SubTotalRow, FirstTaxRow, SecondTaxRow, ChargeRow, EmptyRow, GrandTotalRow };
 
 float TotalsLine(int row) {
@@ -203,7 +203,7 @@ void NXPrint::PrintAddress(float x, const QString& heading, const Address& addre
 void NXPrint::PrintInvoiceLines(const Invoice& invoice) {
     printer.PositionAt(leftColumn, goodsTop);
     for (int row = 1; row <= invoice.fgItems.DataRows(); ++row) {
-        const QString& description = invoice.fgItems.Text(row, ProductColumn);
+        const QString& description = invoice.fgItems.Text(row, int(SlipItemColumn::Description));
         NewPageWhenFull(invoice, description);
         PrintInvoiceLine(invoice.fgItems, row);
         NewPageWhenFull(invoice, description);
@@ -215,15 +215,18 @@ void NXPrint::PrintInvoiceLines(const Invoice& invoice) {
 }
 
 void NXPrint::PrintInvoiceLine(const GridModel& fgItems, int row) {
-    const QString& unitCost = fgItems.Text(row, UnitCostColumn);
+    const auto cell = [&](SlipItemColumn column) -> const QString& {
+        return fgItems.Text(row, int(column));
+    };
+    const QString& unitCost = cell(SlipItemColumn::UnitPrice);
     printer.SetPrintColor(PrintColor::Text);
-    surface.PrintEndingAt(unitsEnd, fgItems.Text(row, UnitsColumn));
+    surface.PrintEndingAt(unitsEnd, cell(SlipItemColumn::Units));
     surface.CurrentX = unitCostCentre - surface.TextWidth(unitCost) / 2;
     surface.Print(unitCost);
-    surface.PrintEndingAt(amountEnd, fgItems.Text(row, ItemTotalColumn));
+    surface.PrintEndingAt(amountEnd, cell(SlipItemColumn::LineTotal));
     printer.PositionAt(descriptionColumn, 0);
     printer.PrintWrapped(surface.CurrentX, surface.CurrentY, descriptionWidth, boxHeight,
-                         fgItems.Text(row, ProductColumn));
+                         cell(SlipItemColumn::Description));
 }
 
 void NXPrint::NewPageWhenFull(const Invoice& invoice, const QString& description) {

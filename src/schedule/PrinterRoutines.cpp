@@ -36,8 +36,12 @@ void PrinterRoutines::AskForPrinter() {
 }
 
 void PrinterRoutines::PreparePrinter(Orientation orientation, bool inColor) {
-    surface.SetPage(orientation, inColor);
+    PreparePaper(orientation, inColor);
     surface.CentringWidth = pageWidth;
+}
+
+void PrinterRoutines::PreparePaper(Orientation orientation, bool inColor) {
+    surface.SetPage(orientation, inColor);
     surface.FontName = settings.DocumentFont;
     surface.ForeColor = black;
     SetPrintFont(0, false, false);

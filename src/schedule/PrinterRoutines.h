@@ -23,6 +23,8 @@ public:
     /// Letter paper, the document font in black, no bold, no underline. Titles are centred on 8.5
     /// inches, also on landscape paper, whose columns stand as if it ended there.
     void PreparePrinter(Orientation orientation, bool inColor);
+    /// The same, with titles centred on the paper as it lies.
+    void PreparePaper(Orientation orientation, bool inColor);
     /// Inches. A value of zero or less leaves its axis alone.
     void PositionAt(float x, float y);
     /// Prints at an X in inches, on the pen's line; the pen stays behind the text.

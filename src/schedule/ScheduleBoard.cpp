@@ -1,5 +1,6 @@
 #include "schedule/ScheduleBoard.h"
 
+#include "platform/Keys.h"
 #include "platform/RuntimeFailure.h"
 #include "slips/SlipFrequency.h"
 #include "store/Conversions.h"
@@ -10,12 +11,6 @@
 #include <limits>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr ushort enterKey = 13;
-
-} // namespace
 
 QString SelectionMark() {
     return u" \u00ab"_s;

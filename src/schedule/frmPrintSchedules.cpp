@@ -18,7 +18,6 @@
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QLabel>
-#include <QListView>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -35,7 +34,7 @@ constexpr double itemsHeight = 7;
 constexpr int addressLines = 6;
 constexpr double logoSize = 1.75;
 
-QListView* MakeList(const QString& name, const QString& accessibleName) {
+ChoiceList* MakeList(const QString& name, const QString& accessibleName) {
     auto* list = Named(new ChoiceList, name);
     list->setAccessibleName(accessibleName);
     return list;
@@ -148,7 +147,7 @@ QWidget* frmPrintSchedules::MakeVehicleCard() {
     connect(lstVehicles->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &frmPrintSchedules::lstVehicles_Click);
     // A click on the vehicle already chosen loads its deliveries anew.
-    connect(lstVehicles, &QListView::clicked, this, &frmPrintSchedules::lstVehicles_Click);
+    connect(lstVehicles, &ChoiceList::ChosenAgain, this, &frmPrintSchedules::lstVehicles_Click);
     connect(&office.fleet.Names, &QAbstractItemModel::modelReset, this,
             &frmPrintSchedules::lstVehicles_Refill);
     return card;
@@ -338,9 +337,8 @@ QWidget* frmPrintSchedules::MakeSlipAmounts() {
     }
     row->addWidget(fraTax);
     row->addWidget(MakeAmount(u"Total"_s, u"lblGrandtotal"_s));
-    fraInvoiceNo =
-        Named(MakeAmount(u"Invoice No (if Printed)"_s, u"lblInvoice"_s), u"fraInvoiceNo"_s);
-    row->addWidget(fraInvoiceNo);
+    row->addWidget(
+        Named(MakeAmount(u"Invoice No (if Printed)"_s, u"lblInvoice"_s), u"fraInvoiceNo"_s));
     return block;
 }
 
@@ -543,14 +541,10 @@ void frmPrintSchedules::cmdPrint_ClearCharge() {
 }
 
 void frmPrintSchedules::cmdPrint_Print() {
-    const auto showSlip = [this] {
-        fraInvoiceNo->show();
-        ShowSlip();
-    };
     office.boardPrinting.Print({.ckPrintWorkSchedule = ckPrintWorkSchedule->isChecked(),
                                 .ckMInvoices = ckMInvoices->isChecked(),
                                 .ckPopulated = ckPopulated->isChecked()},
-                               {.showSlip = showSlip,
+                               {.showSlip = [this] { ShowSlip(); },
                                 .returnToMenu = [this] { cmdPrint_Click(ReturnToMenu); },
                                 .deselectAll = [this] { cmdPrint_Click(DeselectAll); }});
     ShowSlip();
@@ -558,7 +552,6 @@ void frmPrintSchedules::cmdPrint_Print() {
 
 void frmPrintSchedules::cmdPrint_ToggleSlip() {
     fraSlip->setVisible(!fraSlip->isVisible());
-    fraInvoiceNo->show();
     fraSlip->Heading()->setText(board.PanelCaption());
     // The panel takes room from the grid; the row it is about stays in sight.
     QCoreApplication::sendPostedEvents(Body(), QEvent::LayoutRequest);

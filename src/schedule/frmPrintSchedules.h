@@ -8,12 +8,12 @@
 
 class AddItemsPanel;
 class Card;
+class ChoiceList;
 class DatePicker;
 class EntryField;
 class Grid;
 class Office;
 class QCheckBox;
-class QListView;
 class QPushButton;
 class QRadioButton;
 class Screens;
@@ -92,8 +92,8 @@ private:
 
     DatePicker* DTPicker1 = nullptr;
     QLabel* lblWeekday = nullptr;
-    QListView* lstVehicles = nullptr;
-    QListView* lstWorkSchedule = nullptr;
+    ChoiceList* lstVehicles = nullptr;
+    ChoiceList* lstWorkSchedule = nullptr;
     EntryField* txtDeliveryCharge = nullptr;
     QCheckBox* ckPopulated = nullptr;
     QCheckBox* ckPrintWorkSchedule = nullptr;
@@ -105,7 +105,6 @@ private:
     AddItemsPanel* fraAddItems = nullptr;
     QWidget* printChoices = nullptr;
     QWidget* fraTax = nullptr;
-    QWidget* fraInvoiceNo = nullptr;
     std::map<Button, QPushButton*> cmdPrint;
     std::map<QString, QLabel*> captions;
 };

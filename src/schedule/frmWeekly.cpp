@@ -5,6 +5,7 @@
 #include "platform/ElidedLabel.h"
 #include "platform/Form.h"
 #include "platform/Grid.h"
+#include "platform/Keys.h"
 #include "platform/Theme.h"
 #include "startup/Office.h"
 #include "startup/Screens.h"
@@ -30,7 +31,6 @@ constexpr double timesWidth = 8;
 constexpr double factsWidth = 10;
 constexpr int factsGap = 4;
 constexpr int headingGap = 4;
-constexpr ushort enterKey = 13;
 
 ChoiceList* MakeList(const QString& name, const QString& accessibleName,
                      QAbstractItemModel& entries) {

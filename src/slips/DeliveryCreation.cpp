@@ -1,5 +1,6 @@
 #include "slips/DeliveryCreation.h"
 
+#include "slips/SlipFrequency.h"
 #include "store/Conversions.h"
 #include "store/TextLines.h"
 #include "store/VerifyDataRoutines.h"
@@ -8,6 +9,15 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The frequency code of an entry of lstFrequency; not for its last, the multiple week days.
+QString CodeOfPlace(int place) {
+    return u"000000"_s + QString::number(place);
+}
+
+} // namespace
+
 DeliveryCreation::DeliveryCreation(DeliveryForm& deliveryForm, const DeliveryParts& deliveryParts,
                                    const LiveSettings& liveSettings, const Clock& machineClock,
                                    Operator& person)
@@ -15,9 +25,12 @@ DeliveryCreation::DeliveryCreation(DeliveryForm& deliveryForm, const DeliveryPar
       user(person) {}
 
 const QStringList& DeliveryCreation::Frequencies() {
-    static const QStringList frequencies = {
-        u"Daily"_s,     u"Weekly"_s,        u"Bi-Monthly"_s, u"Monthly"_s,
-        u"Quarterly"_s, u"Semi-Annually"_s, u"Annually"_s,   u"Multiple Week Days"_s};
+    static const QStringList frequencies = [] {
+        QStringList labels;
+        for (int place = 0; place < int(Frequency::MultipleWeekDays); ++place)
+            labels += FrequencyLabel(CodeOfPlace(place));
+        return labels << u"Multiple Week Days"_s;
+    }();
     return frequencies;
 }
 
@@ -123,7 +136,7 @@ void DeliveryCreation::lstFrequency_Click(int place) {
     if (form.fraMulti)
         form.ckMulti.fill(false);
     else
-        form.SlipFrequency = u"000000"_s + QString::number(place);
+        form.SlipFrequency = CodeOfPlace(place);
 }
 
 void DeliveryCreation::AcceptDays() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/Calendar.h"
+
 #include <QDate>
 #include <QString>
 
@@ -34,7 +36,6 @@ enum class DeliveryFocus {
 };
 
 constexpr int addressParts = 6;
-constexpr int daysOfWeek = 7;
 /// Name, street, apartment, city, state, zip.
 using DeliveryAddress = std::array<QString, addressParts>;
 

@@ -4,6 +4,8 @@
 #include "store/Conversions.h"
 #include "store/VerifyDataRoutines.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -15,6 +17,7 @@ constexpr int lineTotal = int(SlipItemColumn::LineTotal);
 
 constexpr qint16 fullSlip = 100;
 constexpr int rowsAfterDeletion = 101;
+constexpr int headingAndEmptyRow = 2;
 
 enum PostButton : size_t { NonPricedButton, ItemButton };
 
@@ -206,8 +209,10 @@ void DeliveryItems::DeleteItem() {
         return;
     const GridModel::Refill refill(fgDelivery);
     fgDelivery.RemoveRow(row);
-    fgDelivery.SetRows(rowsAfterDeletion);
     --SlipItemCount;
+    // A slip can go past its hundred lines. No line of such a slip is cut off, and the next post
+    // finds its empty row.
+    fgDelivery.SetRows(std::max(rowsAfterDeletion, SlipItemCount + headingAndEmptyRow));
 }
 
 void DeliveryItems::LoadTemplate() {

@@ -7,6 +7,7 @@
 
 #include <QStringBuilder>
 
+#include <cmath>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -29,7 +30,8 @@ QString DateLineOf(const QString& fileName) {
 qint32 CounterValue(const QString& text) {
     bool isNumber = false;
     const double number = text.trimmed().toDouble(&isNumber);
-    return isNumber ? ToInt32(number, u"reading NQDeliveryNo.txt"_s) : 0;
+    // The conversion also takes the words "inf" and "nan", which are no numbers here.
+    return isNumber && std::isfinite(number) ? ToInt32(number, u"reading NQDeliveryNo.txt"_s) : 0;
 }
 
 } // namespace
@@ -139,12 +141,8 @@ void DeliverySlipRoutines::ProcessPastSlips(const std::vector<QString>& names) {
 }
 
 void DeliverySlipRoutines::WriteSlipHeader(const SlipHeader& header) {
-    WriteHeaderFile(HeaderFile(TrimBlanks(header.table[0])), header);
-}
-
-void DeliverySlipRoutines::WriteHeaderFile(const QString& name, const SlipHeader& header) {
-    disk.KillFile(name);
-    disk.OpenForOutput(name);
+    disk.KillFile(temporaryHeader);
+    disk.OpenForOutput(temporaryHeader);
     TextWriter writer(disk);
     for (const QString& line : header.table)
         writer.Plain(TrimBlanks(line));
@@ -154,19 +152,13 @@ void DeliverySlipRoutines::WriteHeaderFile(const QString& name, const SlipHeader
         writer.Quoted(TrimBlanks(line));
 }
 
+/// Closes all files first, and so the header, which its writer has left open.
 void DeliverySlipRoutines::WriteSlipItems(const GridModel& grid, const QString& slipNo,
                                           qint16 count, const QString& total) {
-    const QString number = TrimBlanks(slipNo);
-    WriteItemFile(ItemFile(number), grid, number, count, total);
-}
-
-void DeliverySlipRoutines::WriteItemFile(const QString& name, const GridModel& grid,
-                                         const QString& number, qint16 count,
-                                         const QString& total) {
-    disk.KillFile(name);
-    disk.OpenForOutput(name);
+    disk.KillFile(temporaryItems);
+    disk.OpenForOutput(temporaryItems);
     TextWriter writer(disk);
-    writer.Plain(number);
+    writer.Plain(slipNo);
     writer.Plain(QString::number(count));
     for (int row = 1; row <= count; ++row) {
         for (int column = 0; column < slipItemColumns; ++column)
@@ -179,14 +171,21 @@ void DeliverySlipRoutines::WriteItemFile(const QString& name, const GridModel& g
 void DeliverySlipRoutines::StoreSlip(const SlipHeader& header, const GridModel& grid, qint16 count,
                                      const QString& total) {
     const QString number = TrimBlanks(header.table[0]);
+    ReplaceSlip(number, [&] {
+        WriteSlipHeader(header);
+        WriteSlipItems(grid, number, count, total);
+    });
+}
+
+void DeliverySlipRoutines::ReplaceSlip(const QString& number,
+                                       const std::function<void()>& writeAside) {
     try {
-        WriteHeaderFile(temporaryHeader, header);
-        WriteItemFile(temporaryItems, grid, number, count, total);
-        disk.KillFile(HeaderFile(number));
-        disk.KillFile(ItemFile(number));
-        disk.RenameDataFile(temporaryItems, ItemFile(number));
+        writeAside();
         // The header comes last: the folder of headers is the list of slips, and an item file that
         // belongs to none of them does no harm.
+        disk.KillFile(ItemFile(number));
+        disk.RenameDataFile(temporaryItems, ItemFile(number));
+        disk.KillFile(HeaderFile(number));
         disk.RenameDataFile(temporaryHeader, HeaderFile(number));
     } catch (const RuntimeFailure&) {
         PassOver([&] { disk.CloseAllFiles(); });
@@ -230,9 +229,11 @@ void DeliverySlipRoutines::SplitSlip(const QString& oldSlipNo, int entry, const 
     const QString date = Table.Text(SlipLine::Date, entry);
     const QString recurringText = Table.Text(SlipLine::Recurring, entry);
     const QString frequency = Table.Text(SlipLine::Frequency, entry);
-    CopyHeaderAsOneTime(oldSlipNo, newSlipNo, entry);
-    WriteSlipItems(items, newSlipNo,
-                   ToInt16(double(items.DataRows()), u"the number of item lines"_s), total);
+    const qint16 count = ToInt16(double(items.DataRows()), u"the number of item lines"_s);
+    ReplaceSlip(newSlipNo, [&] {
+        CopyHeaderAsOneTime(oldSlipNo, newSlipNo, entry);
+        WriteSlipItems(items, newSlipNo, count, total);
+    });
     ProcessPastSlip(oldSlipNo, date, recurringText, frequency);
     UpdateDeliveryCounter();
 }
@@ -240,7 +241,7 @@ void DeliverySlipRoutines::SplitSlip(const QString& oldSlipNo, int entry, const 
 /// Leaves both files open: the item file's writer, which follows, closes them.
 void DeliverySlipRoutines::CopyHeaderAsOneTime(const QString& oldSlipNo, const QString& newSlipNo,
                                                int entry) {
-    TextWriter writer(disk, disk.OpenForOutputBeside(HeaderFile(newSlipNo)));
+    TextWriter writer(disk, disk.OpenForOutputBeside(temporaryHeader));
     for (int number = 1; number <= slipTableLines; ++number) {
         const auto line = SlipLine(number);
         if (line == SlipLine::SlipNumber)

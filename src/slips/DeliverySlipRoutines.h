@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 #include <vector>
 
 /// Header lines of a slip file that the slip table holds, numbered as in the file.
@@ -88,16 +89,11 @@ public:
     /// before today goes through ProcessPastSlip; the table then still shows it as it was.
     void LoadSlips(bool processPast);
 
-    /// Writes the 22 header lines without blanks at their ends, replacing the slip file of that
-    /// number, and leaves it open: the item file's writer, which follows, closes it.
-    void WriteSlipHeader(const SlipHeader& header);
-    /// Writes the item file from rows 1 to `count` of a grid, columns 0 to 3: units, description,
-    /// unit price, line total. Closes all files first. An empty total counts as 0.
-    void WriteSlipItems(const GridModel& grid, const QString& slipNo, qint16 count,
-                        const QString& total);
-    /// Stores a slip: its header file and its item file, replacing the slip of that number. Both
-    /// are written aside and take their places once they are whole, so a failure leaves the slips
-    /// on disk as they were: half a header would stop every later start of the program.
+    /// Stores a slip, replacing the one of that number: its header file, the 22 lines without
+    /// blanks at their ends, and its item file, from rows 1 to `count` of a grid, columns 0 to 3:
+    /// units, description, unit price, line total. An empty total counts as 0. Both are written
+    /// aside and take their places once they are whole, so a failure leaves the slips on disk as
+    /// they were: half a header would stop every later start of the program.
     void StoreSlip(const SlipHeader& header, const GridModel& grid, qint16 count,
                    const QString& total);
     /// Changes lines of a slip in place: the date always; with `keep` false also the time and the
@@ -109,6 +105,7 @@ public:
     /// becomes of the old slip, are told by an entry of the table: it is the row of the board's
     /// grid, also where grid and table differ in order. The addresses come from the old slip's
     /// file. `total` is the grand total on the board. A slip that has the next number is replaced.
+    /// A failure before both files of the copy are whole leaves no part of it behind.
     void SplitSlip(const QString& oldSlipNo, int entry, const GridModel& items,
                    const QString& total);
     /// The answer is True in every case: nothing refuses a second delivery in the same slot.
@@ -127,9 +124,13 @@ public:
     static QString ItemFile(const QString& slipNo);
 
 private:
-    void WriteHeaderFile(const QString& name, const SlipHeader& header);
-    void WriteItemFile(const QString& name, const GridModel& grid, const QString& number,
-                       qint16 count, const QString& total);
+    // These two write under the temporary names.
+    void WriteSlipHeader(const SlipHeader& header);
+    void WriteSlipItems(const GridModel& grid, const QString& slipNo, qint16 count,
+                        const QString& total);
+    /// `writeAside` writes both files of a slip under temporary names; they take the places of
+    /// those of the slip of that number once they are whole.
+    void ReplaceSlip(const QString& number, const std::function<void()>& writeAside);
     void ReadHeaders(const std::vector<QString>& names);
     void ProcessPastSlips(const std::vector<QString>& names);
     void CopyHeaderAsOneTime(const QString& oldSlipNo, const QString& newSlipNo, int entry);

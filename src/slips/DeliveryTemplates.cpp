@@ -103,14 +103,17 @@ void DeliveryTemplates::WriteLines(const QString& path, const GridModel& fgDeliv
 qint16 DeliveryTemplates::LoadTemplate(GridModel& fgDelivery) {
     const QString path = PathOf(SelectedFile());
     const QString where = u"a line of "_s + Shown(path);
+    // Opening its records would make a file that has gone since it was listed, without lines.
+    disk.CheckOpens(path);
     const qint16 count = disk.RecordCount(path, sizeof(TemplateRecord));
     disk.OpenRandom(path, sizeof(TemplateRecord));
+    const auto lines = ReadRecords<TemplateRecord>(disk, disk.DiskFile, count);
+    disk.CloseAllFiles();
     const GridModel::Refill refill(fgDelivery);
     constexpr int headingAndEmptyRow = 2;
     fgDelivery.SetRows(count + headingAndEmptyRow);
     for (int row = 1; row <= count; ++row)
-        WriteRow(fgDelivery, row, ReadRecord<TemplateRecord>(disk, disk.DiskFile, row), where);
-    disk.CloseAllFiles();
+        WriteRow(fgDelivery, row, lines[size_t(row) - 1], where);
     return count;
 }
 

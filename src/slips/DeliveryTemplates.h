@@ -60,7 +60,7 @@ public:
     /// and gives their number. The grid gets the rows that they need and keeps an empty row below,
     /// for the next line to be posted. Prices come back without a currency sign. Units or a price
     /// that are no numbers are a failure, and so are the ones missing from a file that was cut
-    /// short.
+    /// short, and a file that has gone since it was listed.
     qint16 LoadTemplate(GridModel& fgDelivery);
     /// Deletes the selected file when the operator says so. The file that takes its place in the
     /// list is selected then.

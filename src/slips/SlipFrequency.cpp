@@ -9,7 +9,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int daysInWeek = 7;
 constexpr int monthsInQuarter = 3;
 constexpr int monthsInYear = 12;
 
@@ -24,8 +23,8 @@ const std::array<FixedFrequency, 7>& FixedFrequencies() {
     // "Bi-Monthly" means every two weeks in this business.
     static const std::array<FixedFrequency, 7> frequencies = {{
         {u"0000000"_s, u"Daily"_s, 1, 0},
-        {u"0000001"_s, u"Weekly"_s, daysInWeek, 0},
-        {u"0000002"_s, u"Bi-Monthly"_s, 2 * daysInWeek, 0},
+        {u"0000001"_s, u"Weekly"_s, daysOfWeek, 0},
+        {u"0000002"_s, u"Bi-Monthly"_s, 2 * daysOfWeek, 0},
         {u"0000003"_s, u"Monthly"_s, 0, 1},
         {u"0000004"_s, u"Quarterly"_s, 0, monthsInQuarter},
         {u"0000005"_s, u"Semi-Annually"_s, 0, 2 * monthsInQuarter},
@@ -44,9 +43,9 @@ const FixedFrequency* FixedFrequencyOf(const QString& code) {
 
 QDate NextTickedWeekday(const QString& code, QDate today) {
     // Without a ticked day the walk stops at nothing but the calendar's end, and so starts there.
-    const bool hasTickedDay = QStringView(code).left(daysInWeek).contains(u'1');
+    const bool hasTickedDay = QStringView(code).left(daysOfWeek).contains(u'1');
     QDate date = hasTickedDay ? today : LastDateOfCalendar();
-    for (int weekday = WeekdayNumber(date);; weekday = weekday % daysInWeek + 1) {
+    for (int weekday = WeekdayNumber(date);; weekday = weekday % daysOfWeek + 1) {
         if (weekday <= code.size() && code[weekday - 1] == u'1')
             return date;
         date = DaysLater(date, 1);

@@ -8,6 +8,7 @@
 #include "startup/Office.h"
 #include "startup/Screens.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLineEdit>
@@ -40,15 +41,47 @@ frmDelivery::frmDelivery(Office& theOffice, Screens& allScreens)
     columns->addWidget(items, 1);
     columns->addWidget(MakeTemplates());
     MakeFoot();
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old, const QWidget* now) {
+        if (now == menuBar())
+            beforeMenuBar = old;
+    });
     creation.Load();
     Show();
+}
+
+/// The focus still moves while the controls go.
+frmDelivery::~frmDelivery() {
+    disconnect(qApp, nullptr, this, nullptr);
 }
 
 QAction* frmDelivery::AddMenu(const QString& name, const QString& caption,
                               const std::function<void()>& rule) {
     QAction* item = Named(menuBar()->addAction(caption), name);
-    connect(item, &QAction::triggered, this, [this, rule] { Run(rule); });
+    connect(item, &QAction::triggered, this, [this, rule] { RunFromMenu(rule); });
     return item;
+}
+
+QWidget* frmDelivery::FieldInHand() const {
+    QWidget* focus = focusWidget();
+    return focus == menuBar() ? beforeMenuBar.data() : focus;
+}
+
+/// A menu takes no focus by itself. It leaves the field in hand first, as a button does, and does
+/// not act when leaving has called the operator elsewhere.
+void frmDelivery::RunFromMenu(const std::function<void()>& rule) {
+    const QPointer<QWidget> field = FieldInHand();
+    if (field)
+        field->setFocus(Qt::MenuBarFocusReason);
+    setFocus(Qt::ShortcutFocusReason);
+    if (focusWidget() != this)
+        return;
+    Run(rule);
+    if (focusWidget() != this)
+        return;
+    if (field && field != this && field->isVisible())
+        field->setFocus(Qt::OtherFocusReason);
+    else
+        focusNextChild();
 }
 
 QList<QAction*> frmDelivery::MakeMenus() {
@@ -160,14 +193,24 @@ void frmDelivery::Show() {
         items->hide();
     setup->ShowFields(form);
     items->ShowFields(form);
-    cmdInvoice[DeliverySetupPanel::Menu]->setVisible(form.fraSetup);
-    cmdExit->setVisible(!form.fraSetup);
-    setupFoot->setVisible(form.fraSetup);
-    itemsFoot->setVisible(!form.fraSetup);
+    ShowFoot();
     ShowTemplates();
     ShowWhere();
     MoveFocus();
     isShowing = false;
+}
+
+/// Here too what goes is hidden first: both feet are wider than a small desktop.
+void frmDelivery::ShowFoot() {
+    QPushButton* cmdMenu = cmdInvoice[DeliverySetupPanel::Menu];
+    for (QWidget* control : {static_cast<QWidget*>(cmdMenu), setupFoot}) {
+        if (!form.fraSetup)
+            control->hide();
+    }
+    cmdExit->setVisible(!form.fraSetup);
+    itemsFoot->setVisible(!form.fraSetup);
+    cmdMenu->setVisible(form.fraSetup);
+    setupFoot->setVisible(form.fraSetup);
 }
 
 void frmDelivery::ShowTemplates() {

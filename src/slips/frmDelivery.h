@@ -3,6 +3,8 @@
 #include "platform/Screen.h"
 #include "slips/DeliverySetupPanel.h"
 
+#include <QPointer>
+
 class ChoiceList;
 class DeliveryItemsPanel;
 class Office;
@@ -16,6 +18,7 @@ class frmDelivery : public Screen {
 
 public:
     frmDelivery(Office& theOffice, Screens& allScreens);
+    ~frmDelivery() override;
 
     /// Starts a new slip.
     void Activate() override;
@@ -32,8 +35,11 @@ private:
     QPushButton* MakeInvoiceButton(DeliverySetupPanel::Button index, const QString& caption,
                                    const std::function<void()>& action);
 
+    void RunFromMenu(const std::function<void()>& rule);
+    QWidget* FieldInHand() const;
     void Run(const std::function<void()>& rule);
     void Show();
+    void ShowFoot();
     void ShowTemplates();
     void ShowWhere();
     void MoveFocus();
@@ -49,6 +55,9 @@ private:
     /// While the screen shows what a rule has done, nothing that happens to a control is the
     /// operator's doing.
     bool isShowing = false;
+
+    /// What had the focus before the menu bar took it: Alt leads into the bar by itself.
+    QPointer<QWidget> beforeMenuBar;
 
     DeliverySetupPanel* setup = nullptr;
     DeliveryItemsPanel* items = nullptr;

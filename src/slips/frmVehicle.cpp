@@ -3,6 +3,7 @@
 #include "platform/EntryBox.h"
 #include "platform/EntryField.h"
 #include "platform/Grid.h"
+#include "platform/Keys.h"
 #include "platform/Theme.h"
 #include "startup/Office.h"
 #include "startup/Screens.h"
@@ -24,7 +25,6 @@ constexpr int bodySide = 20;
 constexpr int bodyTop = 14;
 constexpr double fieldWidth = 16;
 constexpr double gridHeight = 8;
-constexpr ushort enterKey = 13;
 
 EntryBox* MakeChoices(const QString& name, QAbstractItemModel& entries) {
     auto* box = Named(new EntryBox, name);

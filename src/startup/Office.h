@@ -1,5 +1,7 @@
 #pragma once
 
+#include "customers/AuxiliaryData.h"
+#include "customers/AuxiliaryWindow.h"
 #include "customers/CustomerFiles.h"
 #include "customers/CustomerReport.h"
 #include "customers/CustomerSearch.h"
@@ -97,7 +99,9 @@ public:
     InventoryPrinter inventoryPrinter;
     CustomerFiles customerFiles;
     DeliveryCustomer deliveryCustomer;
+    AuxiliaryData auxiliaryData;
     CustomerSelection customers;
+    AuxiliaryWindow auxiliaryWindow;
     CustomerSearch customerSearch;
     CustomerReport customerReport;
     ReportPrinter reportPrinter;

@@ -208,6 +208,8 @@ void frmStartup::Activate() {
     } else {
         fraNoCustomerFound->hide();
         EnableRoutines(PrintSchedules, Products, true);
+        // While it was disabled, the focus went on from the routine that the operator comes from.
+        lblSub[size_t(office.MenuChoice)]->setFocus();
     }
 }
 

@@ -490,14 +490,38 @@ void BasicDiskRoutines::ReadRecord(qint16 fileNumber, qint32 recordNumber, void*
     const auto operation = [&] {
         return u"Reading record %1 of %2"_s.arg(recordNumber).arg(random.name);
     };
-    const off_t start = StartOf(random, recordNumber, size, operation);
-    const ssize_t count =
-        Uninterrupted([&] { return ::pread(random.descriptor, record, size, start); });
-    if (count < 0) {
-        const int error = errno;
-        throw FailureFromErrno(error, operation());
+    ReadAt(random, StartOf(random, recordNumber, size, operation), record, size, operation);
+}
+
+void BasicDiskRoutines::ReadRecords(qint16 fileNumber, qint16 count, void* records, size_t size) {
+    const Random& random = RandomOn(fileNumber);
+    const auto operation = [&] {
+        return u"Reading the %1 records of %2"_s.arg(count).arg(random.name);
+    };
+    if (size != size_t(random.recordLength))
+        throw RuntimeFailure(FailureKind::BadRecord,
+                             operation() + u" failed: a record has another length."_s);
+    ReadAt(random, 0, records, size_t(count) * size, operation);
+}
+
+void BasicDiskRoutines::ReadAt(const Random& random, off_t start, void* bytes, size_t size,
+                               const std::function<QString()>& operation) {
+    auto* const target = static_cast<char*>(bytes);
+    size_t done = 0;
+    while (done < size) {
+        const ssize_t count = Uninterrupted([&] {
+            return ::pread(random.descriptor, target + done, size - done, start + off_t(done));
+        });
+        if (count < 0) {
+            const int error = errno;
+            throw FailureFromErrno(error, operation());
+        }
+        if (count == 0)
+            break;
+        done += size_t(count);
     }
-    std::memset(static_cast<char*>(record) + count, 0, size - size_t(count));
+    if (done < size)
+        std::memset(target + done, 0, size - done);
 }
 
 void BasicDiskRoutines::WriteRecord(qint16 fileNumber, qint32 recordNumber, const void* record,

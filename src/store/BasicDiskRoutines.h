@@ -92,6 +92,8 @@ public:
     /// Record numbers count from 1. What lies beyond the end of the file reads as zero bytes. A
     /// `size` beyond the file's record length is a failure of kind BadRecord.
     void ReadRecord(qint16 fileNumber, qint32 recordNumber, void* record, size_t size);
+    /// Records 1 to `count` in one go, `size` bytes each, which is the file's record length.
+    void ReadRecords(qint16 fileNumber, qint16 count, void* records, size_t size);
     void WriteRecord(qint16 fileNumber, qint32 recordNumber, const void* record, size_t size);
 
 private:
@@ -117,6 +119,8 @@ private:
     /// `operation` is asked only for a failure: a file has thousands of records.
     static off_t StartOf(const Random& random, qint32 recordNumber, size_t size,
                          const std::function<QString()>& operation);
+    static void ReadAt(const Random& random, off_t start, void* bytes, size_t size,
+                       const std::function<QString()>& operation);
     void Remove(const QString& name);
     qint16 OpenRecords(const QString& name, qint16 recordLength);
     Random& RandomOn(qint16 fileNumber);

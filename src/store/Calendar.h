@@ -14,6 +14,7 @@ enum WorkWeekCode : qint16 {
     AllDays = 7,
 };
 
+constexpr int daysOfWeek = 7;
 /// 1 for Sunday to 7 for Saturday, as all weekday rules of the program count.
 int WeekdayNumber(QDate date);
 /// "Sunday" to "Saturday" for 1 to 7.

@@ -4,6 +4,7 @@
 #include "platform/RuntimeFailure.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <optional>
@@ -118,6 +119,51 @@ QByteArray PlainNumberOf(QStringView text, const QString& where) {
     return *plain;
 }
 
+/// Powers of ten that a double holds exactly.
+constexpr std::array<double, 16> powersOfTen = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+constexpr int significantDigits = 15;
+
+/// The double of digits with at most one decimal mark, which is what most numbers are. With 15
+/// digits at most, they and the power of ten that they are divided by are exact, so one division
+/// gives what reading the text would. Nothing for any other text: that may still be a number.
+std::optional<double> ShortDouble(QStringView text) {
+    const qsizetype mark = text.indexOf(RegionalFormats::Current().DecimalMark());
+    const qsizetype places = mark < 0 ? 0 : text.size() - mark - 1;
+    const qsizetype length = text.size() - (mark < 0 ? 0 : 1);
+    if (length < 1 || length > significantDigits)
+        return {};
+    quint64 digits = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (i == mark)
+            continue;
+        if (text[i] < u'0' || text[i] > u'9')
+            return {};
+        digits = digits * 10 + quint64(text[i].unicode() - u'0');
+    }
+    return double(digits) / powersOfTen[size_t(places)];
+}
+
+/// The amount's absolute value in units of the currency's last decimal, rounded as its 15
+/// significant digits read; nothing when a double can't tell for sure how they read, or for amounts
+/// of unusual size.
+std::optional<quint64> UsualAmount(double amount, int decimals) {
+    const double value = std::abs(amount);
+    if (!(value >= 1 && value < 1e9))
+        return {};
+    const auto above = std::upper_bound(powersOfTen.begin(), powersOfTen.end(), value);
+    const auto places = significantDigits - int(above - powersOfTen.begin());
+    // Within a sixteenth of the exact product, as it is below 2 to the 50th.
+    const double scaled = value * powersOfTen[size_t(places)];
+    const double whole = std::floor(scaled);
+    const double rest = scaled - whole;
+    if (rest > 0.4 && rest < 0.6)
+        return {};
+    const quint64 digits = quint64(whole) + (rest > 0.5 ? 1 : 0);
+    const auto unit = quint64(powersOfTen[size_t(places - decimals)]);
+    return digits / unit + (2 * (digits % unit) >= unit ? 1 : 0);
+}
+
 /// `number` is what a failure shows.
 QString CurrencyTextOf(const Decimal& decimal, QStringView number, const QString& where = {}) {
     const RegionalFormats& formats = RegionalFormats::Current();
@@ -157,6 +203,8 @@ float ToSingle(QStringView text, const QString& where) {
 }
 
 double ToDouble(QStringView text, const QString& where) {
+    if (const auto number = ShortDouble(text))
+        return *number;
     const QByteArray plain = PlainNumberOf(text, where);
     bool fits = false;
     const double number = plain.toDouble(&fits);
@@ -236,8 +284,10 @@ QString CurrencyText(Currency amount) {
 QString CurrencyText(double amount) {
     if (!std::isfinite(amount))
         throw TooLarge(QString::number(amount), {});
-    constexpr int placesOfFifteenDigits = 14;
-    return CurrencyTextOf(DecimalOf(QByteArray::number(amount, 'e', placesOfFifteenDigits)
+    const RegionalFormats& formats = RegionalFormats::Current();
+    if (const auto count = UsualAmount(amount, formats.CurrencyDecimals()))
+        return formats.Currency(*count, amount < 0);
+    return CurrencyTextOf(DecimalOf(QByteArray::number(amount, 'e', significantDigits - 1)
                                         .replace('e', 'E')
                                         .replace("E+", "E")),
                           NumberText(amount));
@@ -256,7 +306,6 @@ QString ShortDateText(QDate date) {
 }
 
 QString NumberText(double number) {
-    constexpr int significantDigits = 15;
     QString text = QString::number(number, 'g', significantDigits).toUpper();
     return text.replace(u'.', RegionalFormats::Current().DecimalMark());
 }

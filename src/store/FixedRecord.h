@@ -13,6 +13,7 @@
 #include <array>
 #include <bit>
 #include <type_traits>
+#include <vector>
 
 /// The fields of a fixed record. A record is a struct of these and nothing else, so that it is its
 /// own bytes on disk: all have alignment 1, and a value-initialised one is all zero bytes.
@@ -23,9 +24,7 @@ struct FixedText {
     std::array<char, Width> bytes;
 
     FixedText& operator=(const QString& text) {
-        const QByteArray encoded = ToCodePage(text).left(qsizetype(Width));
-        bytes.fill(' ');
-        std::copy(encoded.begin(), encoded.end(), bytes.begin());
+        std::fill(bytes.begin() + EncodeInto(bytes.data(), Width, text), bytes.end(), ' ');
         return *this;
     }
 
@@ -34,12 +33,13 @@ struct FixedText {
     /// As readers take it: without leading and trailing blanks. A field that was never assigned
     /// holds NUL characters, which are no blanks.
     QString Trimmed() const {
-        QByteArrayView text(bytes.data(), qsizetype(Width));
-        while (text.startsWith(' '))
-            text = text.sliced(1);
-        while (text.endsWith(' '))
-            text.chop(1);
-        return FromCodePage(text);
+        const char* start = bytes.data();
+        const char* end = start + Width;
+        while (start < end && *start == ' ')
+            ++start;
+        while (end > start && end[-1] == ' ')
+            --end;
+        return FromCodePage({start, end - start});
     }
 };
 
@@ -103,6 +103,15 @@ Record ReadRecord(BasicDiskRoutines& disk, qint16 fileNumber, qint32 recordNumbe
     Record record{};
     disk.ReadRecord(fileNumber, recordNumber, &record, sizeof(Record));
     return record;
+}
+
+/// Records 1 to `count`, for files that are read whole.
+template <typename Record>
+std::vector<Record> ReadRecords(BasicDiskRoutines& disk, qint16 fileNumber, qint16 count) {
+    static_assert(std::is_trivially_copyable_v<Record> && alignof(Record) == 1);
+    std::vector<Record> records(static_cast<size_t>(count));
+    disk.ReadRecords(fileNumber, count, records.data(), sizeof(Record));
+    return records;
 }
 
 template <typename Record>

@@ -239,11 +239,15 @@ TextWriter::TextWriter(BasicDiskRoutines& disk, qint16 fileNumber)
     : routines(disk), number(fileNumber) {}
 
 void TextWriter::Line(const QByteArray& bytes) {
-    routines.Append(number, bytes + lineEnd.toByteArray());
+    routines.Append(number, bytes);
+    routines.Append(number, lineEnd);
 }
 
 void TextWriter::Plain(const QString& text) {
-    Line(ToCodePage(text));
+    plainLine.truncate(0);
+    AppendInCodePage(plainLine, text);
+    plainLine.append(lineEnd);
+    routines.Append(number, plainLine);
 }
 
 void TextWriter::Quoted(const QString& text) {

@@ -91,6 +91,8 @@ private:
 
     BasicDiskRoutines& routines;
     qint16 number;
+    /// Kept from line to line for its memory: a slip has hundreds of them.
+    QByteArray plainLine;
 };
 
 /// Writes a file of record lines over what is there; a copy in Backup stays.

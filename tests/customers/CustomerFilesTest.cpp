@@ -185,6 +185,17 @@ TEST_F(CustomerFilesTest, ReadingMakesNoFile) {
     EXPECT_EQ(folder.Everything(), before);
 }
 
+TEST_F(CustomerFilesTest, AccountNumbersComeInFileOrderAndLeaveTheBufferAlone) {
+    EXPECT_EQ(files.AccountNumbers(), QStringList());
+    EXPECT_FALSE(folder.Has(customerFile));
+    folder.Write(customerFile, SampleCustomer{.account = "4471"}.Bytes() +
+                                   SampleCustomer{.account = " 12"}.Bytes() +
+                                   SampleCustomer{.account = "0099"}.Bytes());
+    files.ReadCustomer(2);
+    EXPECT_EQ(files.AccountNumbers(), (QStringList{u"4471"_s, u"12"_s, u"0099"_s}));
+    EXPECT_EQ(files.Customer.AcctNo.Trimmed(), u"12"_s);
+}
+
 TEST_F(CustomerFilesTest, DeletingTakesTheRecordOutOfAllThreeFiles) {
     WriteThree();
     files.Delete(2);

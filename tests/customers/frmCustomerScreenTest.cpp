@@ -14,12 +14,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QString later = u"Not part of this version yet"_s;
-
-} // namespace
-
 TEST_F(CustomerScreen, ControlsCarryTheirCaptionsAndToolTips) {
     OpenThree();
     EXPECT_EQ(screens.Find(screen)->windowTitle(), u"Customer Selection       "_s);
@@ -61,12 +55,6 @@ TEST_F(CustomerScreen, ControlsCarryTheirCaptionsAndToolTips) {
     ASSERT_EQ(titles->count(), 5);
     EXPECT_EQ(titles->itemText(0), u"Mr/Mrs"_s);
     EXPECT_EQ(titles->itemText(4), u"Miss"_s);
-}
-
-TEST_F(CustomerScreen, RoutinesOfLaterVersionsAreDisabledAndSaySo) {
-    OpenThree();
-    EXPECT_FALSE(Item(u"mnuAux"_s)->isEnabled());
-    EXPECT_EQ(Item(u"mnuAux"_s)->toolTip(), later);
 }
 
 TEST_F(CustomerScreen, OpensOnTheFirstCustomerWithTheFocusInTheNumber) {

@@ -407,9 +407,9 @@ EnterCustomers() {
     Press "$customersWindow" Alt_L Down Return
     EnterFields "${individualAccount[@]}"
     ExpectCustomers entered
-    # Behind the fields and the two buttons that find a customer: to the first one, and so the second
+    # Behind the fields and the four buttons that find a customer: to the first one, and so the second
     # is saved. It goes by its telephone number.
-    Keys Tab Tab space
+    Keys Tab Tab Tab Tab space
     AnswerBox 'Account not Entered' Return
     ExpectCustomers entered ''
 }
@@ -427,8 +427,8 @@ ShowCustomer() {
 # business, too. Leaving the screen takes back the count of the account that was added, and writes
 # the one that is shown.
 ShowCustomersAgain() {
-    ShowCustomer 8
-    ShowCustomer 9
+    ShowCustomer 10
+    ShowCustomer 11
     Press "$customersWindow" alt+m
     menuWindow=$(WaitForWindow "$menuScreen")
     ExpectCustomers shown "$fullName"
@@ -490,7 +490,7 @@ DeleteVehicle() {
 DeleteCustomer() {
     Press "$menuWindow" alt+u
     customersWindow=$(WaitForWindow "$customersScreen")
-    ShowCustomer 8
+    ShowCustomer 10
     Press "$customersWindow" Alt_L Down Down Return
     AnswerBox "$notice" alt+y
     ExpectCustomers left

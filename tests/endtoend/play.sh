@@ -22,7 +22,8 @@ recurringQuestion='Delete a Recurring Slip'
 # A message box without a title of its own has the program's.
 notice=$titleScreen
 
-playDate=2026-03-09
+playDate=''
+playClock=()
 playLocale=en_US.UTF-8
 # A name that a careless road from the folder to a file would trip over.
 businessName='Büro Süd 1'
@@ -31,16 +32,21 @@ setupWindow=''
 productsWindow=''
 playProcesses=()
 
-# A clock that runs on from the morning of the set day, as words for env. The loader puts the
-# machine's folder of libraries in the place of $LIB. The preloaded clock comes before the
-# sanitizer's own library, which that library must put up with.
-# shellcheck disable=SC2016  # for the loader to expand
-playClock=(
-    'LD_PRELOAD=/usr/$LIB/faketime/libfaketime.so.1'
-    "FAKETIME=@$playDate 08:00:00"
-    FAKETIME_DONT_FAKE_MONOTONIC=1
-    "ASAN_OPTIONS=${ASAN_OPTIONS:+$ASAN_OPTIONS:}verify_asan_link_order=0"
-)
+# SetPlayDate DATE: the programs started from now on have a clock that runs on from the morning of
+# that day, as words for env. The loader puts the machine's folder of libraries in the place of $LIB.
+# The preloaded clock comes before the sanitizer's own library, which that library must put up with.
+SetPlayDate() {
+    playDate=$1
+    # shellcheck disable=SC2016  # for the loader to expand
+    playClock=(
+        'LD_PRELOAD=/usr/$LIB/faketime/libfaketime.so.1'
+        "FAKETIME=@$playDate 08:00:00"
+        FAKETIME_DONT_FAKE_MONOTONIC=1
+        "ASAN_OPTIONS=${ASAN_OPTIONS:+$ASAN_OPTIONS:}verify_asan_link_order=0"
+    )
+}
+
+SetPlayDate 2026-03-09
 
 BeginPlay() {
     BeginDay "$(mktemp -d -t tessel-play-XXXXXX)"

@@ -76,3 +76,13 @@ TEST(CodePageTest, TextTellsWhetherTheCodePageHoldsIt) {
     EXPECT_FALSE(IsInCodePage(u"12 z\u0142"_s));
     EXPECT_FALSE(IsInCodePage(u"\u0661"_s));
 }
+
+TEST(CodePageTest, TextIsEncodedIntoTheRoomThereIs) {
+    QByteArray room(6, '.');
+    EXPECT_EQ(EncodeInto(room.data(), 4, u"Caf\u00e9 Mill"_s), 4U);
+    EXPECT_EQ(room, "Caf\xe9..");
+    EXPECT_EQ(EncodeInto(room.data(), 4, u"\u20ac \U0001f69a"_s), 3U);
+    EXPECT_EQ(room, "\x80 ?\xe9..");
+    EXPECT_EQ(EncodeInto(room.data(), 4, {}), 0U);
+    EXPECT_EQ(room, "\x80 ?\xe9..");
+}

@@ -15,6 +15,7 @@ protected:
     DatePickerTest() {
         UseLocale("en_US");
         QObject::connect(&picker, &DatePicker::Changed, [this](QDate date) { told += date; });
+        QObject::connect(&picker, &DatePicker::Dismissed, [this] { ++dismissals; });
         picker.SetDate({2026, 11, 20});
         picker.show();
     }
@@ -32,6 +33,7 @@ protected:
 
     DatePicker picker;
     QList<QDate> told;
+    int dismissals = 0;
 };
 
 TEST_F(DatePickerTest, ShowsTheRegionalShortDateWithoutTellingOfIt) {
@@ -105,4 +107,18 @@ TEST_F(DatePickerTest, DayPickedFromTheCalendarIsTold) {
     calendar->setSelectedDate({2026, 11, 27});
     QTest::keyClick(calendar->findChild<QWidget*>(u"qt_calendar_calendarview"_s), Qt::Key_Return);
     EXPECT_EQ(told, QList<QDate>{QDate(2026, 11, 27)});
+}
+
+TEST_F(DatePickerTest, CalendarTellsOfItsClosingOnlyWithoutAPick) {
+    QTest::keyClick(&picker, Qt::Key_F4);
+    picker.findChild<QCalendarWidget*>(u"calendar"_s)->window()->close();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return dismissals == 1; }));
+    EXPECT_TRUE(told.isEmpty());
+    QTest::keyClick(&picker, Qt::Key_F4);
+    auto* calendar = picker.findChild<QCalendarWidget*>(u"calendar"_s);
+    QTest::keyClick(calendar->findChild<QWidget*>(u"qt_calendar_calendarview"_s), Qt::Key_Return);
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return !picker.findChild<QCalendarWidget*>(u"calendar"_s); }));
+    EXPECT_EQ(told.size(), 1);
+    EXPECT_EQ(dismissals, 1);
 }

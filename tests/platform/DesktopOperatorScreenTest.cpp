@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTest>
@@ -374,15 +375,18 @@ TEST_F(ProgressTest, ShortWorkShowsNone) {
 }
 
 TEST_F(ProgressTest, LongWorkShowsHowFarItHasGotUntilItEnds) {
-    user.BeginProgress(u"Working..."_s, 100);
+    user.BeginProgress(u"Working..."_s, 250);
     user.ShowProgress(1);
     QTest::qSleep(600);
     EXPECT_TRUE(user.ShowProgress(20));
     ASSERT_NE(Dialog(), nullptr);
     EXPECT_EQ(Dialog()->labelText(), u"Working..."_s);
-    EXPECT_EQ(Dialog()->maximum(), 100);
+    EXPECT_EQ(Dialog()->maximum(), 250);
     EXPECT_EQ(Dialog()->value(), 20);
-    EXPECT_TRUE(user.ShowProgress(100));
+    const auto* bar = Dialog()->findChild<QProgressBar*>();
+    EXPECT_EQ(bar->maximum(), 250);
+    EXPECT_EQ(bar->value(), 20);
+    EXPECT_TRUE(user.ShowProgress(250));
     EXPECT_NE(Dialog(), nullptr) << "the end of the work is told by itself";
     user.EndProgress();
     EXPECT_EQ(Dialog(), nullptr);

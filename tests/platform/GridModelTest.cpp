@@ -15,6 +15,31 @@ TEST(GridModel, ClearGridBlanksAndCutsToTwoRows) {
     EXPECT_EQ(grid.Text(0, 1), u"B"_s);
 }
 
+TEST(GridModel, ClearGridAddsTheDataRowToAGridWithoutOne) {
+    GridModel grid({u"A"_s, u"B"_s});
+    grid.ClearGrid();
+    ASSERT_EQ(grid.Rows(), 2);
+    EXPECT_EQ(grid.Text(1, 1), QString());
+}
+
+TEST(GridModel, ClearGridMovesACurrentDataRowToTheRowThatIsLeft) {
+    for (const int row : {1, 2, 4}) {
+        GridModel grid({u"A"_s, u"B"_s});
+        grid.SetRows(5);
+        grid.SetCurrent(row, 1);
+        grid.ClearGrid();
+        EXPECT_EQ(grid.CurrentRow(), 1) << row;
+        EXPECT_EQ(grid.CurrentColumn(), 1) << row;
+    }
+}
+
+TEST(GridModel, ClearGridLeavesTheHeadingCurrent) {
+    GridModel grid({u"A"_s});
+    grid.SetRows(5);
+    grid.ClearGrid();
+    EXPECT_EQ(grid.CurrentRow(), 0);
+}
+
 TEST(GridModel, CurrentRowMovesUpWhenItsRowGoes) {
     GridModel grid({u"A"_s});
     grid.SetRows(4);
@@ -86,4 +111,18 @@ TEST(GridModel, FindRowGivesTheFirstDataRowOrNone) {
     EXPECT_EQ(grid.FindRow(0, u"x"_s), 2);
     EXPECT_EQ(grid.FindRow(1, u"x"_s), 0);
     EXPECT_EQ(FailureOf([&] { (void)grid.FindRow(2, {}); }).Kind(), FailureKind::Subscript);
+}
+
+TEST(GridModel, ColumnAndHeadingLineUpAsTold) {
+    GridModel grid({u"A"_s, u"B"_s, u"C"_s});
+    grid.SetRows(2);
+    grid.AlignRight(1);
+    grid.AlignCentre(2);
+    const Qt::AlignmentFlag expected[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
+    for (int column = 0; column < 3; ++column) {
+        const int alignment = expected[column] | Qt::AlignVCenter;
+        EXPECT_EQ(grid.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt(),
+                  alignment);
+        EXPECT_EQ(grid.data(grid.index(0, column), Qt::TextAlignmentRole).toInt(), alignment);
+    }
 }

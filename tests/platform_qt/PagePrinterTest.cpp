@@ -165,6 +165,16 @@ TEST_F(PagePrinterTest, CentredTextStandsInTheMiddleOfThePage) {
     EXPECT_NEAR(Printed().PlaceOf(u"TITLE"_s).center().x(), 4.25, nearby);
 }
 
+TEST_F(PagePrinterTest, CentredTextOnPaperOnItsSideGoesByTheCentringWidth) {
+    printer.SetPage(Orientation::Landscape, true);
+    printer.PrintCentred(u"PAPER"_s);
+    printer.CentringWidth = 12240;
+    printer.PrintCentred(u"COLUMNS"_s);
+    const PrintedPages pages = Printed();
+    EXPECT_NEAR(pages.PlaceOf(u"PAPER"_s).center().x(), 5.5, nearby);
+    EXPECT_NEAR(pages.PlaceOf(u"COLUMNS"_s).center().x(), 4.25, nearby);
+}
+
 TEST_F(PagePrinterTest, LinesFollowEachOtherATextHeightApart) {
     printer.FontName = u"DejaVu Sans"_s;
     printer.CurrentY = 1440;

@@ -339,6 +339,39 @@ TEST_F(AddItemsPanelScreen, SavingHidesTheSlipAndEmptiesTheGrid) {
     EXPECT_EQ(office.board.fgSchedule.DataRows(), 3);
 }
 
+TEST_F(AddItemsPanelScreen, ChargeAfterSavingIsToldThatNoDeliveryIsSelected) {
+    OpenPanel();
+    ClickCell(grid, 2, customerColumn);
+    Click(board, u"cmdPrint(9)"_s);
+    Click(board, u"cmdPrint(8)"_s);
+    auto* charge = Find<QLineEdit>(board, u"txtDeliveryCharge"_s);
+    charge->setText(u"5"_s);
+    user.ExpectMessage(u"You have not selected a Delivery from the Grid"_s);
+    Click(board, u"cmdPrint(1)"_s);
+    user.ExpectNothingLeft();
+    EXPECT_EQ(charge->text(), u"$0.00"_s);
+    EXPECT_EQ(Focus(), charge);
+}
+
+TEST_F(AddItemsPanelScreen, PanelThatStaysOpenOverASaveAddsAndSavesOnceMore) {
+    OpenPanel();
+    Enter(1, u"2"_s);
+    Click(board, u"cmdPrint(9)"_s);
+    Click(board, u"cmdPrint(4)"_s);
+    Click(board, u"cmdPrint(8)"_s);
+    EXPECT_TRUE(panel->isVisible());
+    Click(board, u"cmdPrint(9)"_s);
+    EXPECT_TRUE(Button(8)->isEnabled());
+    Click(board, u"cmdPrint(8)"_s);
+    EXPECT_TRUE(Failures().empty());
+    EXPECT_FALSE(Button(8)->isEnabled());
+    // The emptied grid's row is the first, and so is the table's entry that is copied.
+    EXPECT_TRUE(folder.Read(HeaderName(u"20260002"_s))
+                    .startsWith("20260002\r\n3/9/2026\r\n08:30am\r\nFalse\r\n"));
+    EXPECT_TRUE(
+        folder.Read(ItemName(u"20260002"_s)).startsWith("20260002\r\n3\r\n3\r\nGravel\r\n"));
+}
+
 TEST_F(AddItemsPanelScreen, SaveStaysEnabledUntilTheSlipIsSaved) {
     OpenPanel();
     Enter(1, u"2"_s);

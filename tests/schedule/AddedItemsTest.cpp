@@ -275,6 +275,34 @@ TEST_F(AddedItemsTest, QuantityOf0IsEnteredInSilenceWithAlarmAndPromptsOff) {
     EXPECT_EQ(Product(1), (QStringList{mark, u"0"_s, u"Salt"_s, u"$7.00"_s, u"$0.00"_s}));
 }
 
+TEST_F(AddedItemsTest, QuantityOf0OnlyBeepsWithPromptsOff) {
+    OpenOverSlip();
+    office.settings.PromptsOn = false;
+    Enter(1, u"0"_s);
+    EXPECT_EQ(user.Beeps, 1);
+    EXPECT_EQ(Product(1), (QStringList{mark, u"0"_s, u"Salt"_s, u"$7.00"_s, u"$0.00"_s}));
+}
+
+TEST_F(AddedItemsTest, QuantityOf0IsOnlyToldOfWithAlarmOff) {
+    OpenOverSlip();
+    office.settings.AlarmOn = false;
+    user.ExpectMessage(u" Enter a Quantity"_s);
+    Enter(1, u"0"_s);
+    user.ExpectNothingLeft();
+    EXPECT_EQ(user.Beeps, 0);
+    EXPECT_EQ(Product(1), (QStringList{mark, u"0"_s, u"Salt"_s, u"$7.00"_s, u"$0.00"_s}));
+}
+
+TEST_F(AddedItemsTest, ClearQuestionComesWithPromptsOffToo) {
+    office.settings.PromptsOn = false;
+    OpenOverSlip();
+    Enter(2, u"5"_s);
+    ExpectClearQuestion(Answer::Yes);
+    Mark(2);
+    user.ExpectNothingLeft();
+    EXPECT_EQ(Product(2)[1], QString());
+}
+
 TEST_F(AddedItemsTest, OtherZeroesAreEnteredWithoutAMessage) {
     OpenOverSlip();
     Enter(1, u"0.0"_s);
@@ -492,6 +520,33 @@ TEST_F(AddedItemsTest, SavingStoresACopyWithTheItemsAndEmptiesTheBoard) {
     EXPECT_EQ(office.slips.Table.Text(SlipLine::SlipNumber, 1), u"20260001"_s);
     board.ChooseVehicle(u"Flatbed Truck"_s);
     EXPECT_EQ(Column(ScheduleColumn::SlipNo), (QStringList{u"20260001"_s, u"7"_s}));
+}
+
+TEST_F(AddedItemsTest, SavingLeavesTheEmptyRowAsTheCurrentOne) {
+    StoreSlip({.number = u"8"_s, .recurring = u"False"_s});
+    OpenOverSlip({.number = u"7"_s, .recurring = u"False"_s});
+    board.fgSchedule.SetCurrent(2, int(ScheduleColumn::Customer));
+    added.AddToSlip();
+    added.SaveSlip();
+    EXPECT_EQ(board.fgSchedule.CurrentRow(), 1);
+    board.txtDeliveryCharge = u"5"_s;
+    user.ExpectMessage(u"You have not selected a Delivery from the Grid"_s);
+    EXPECT_EQ(board.EnterCharge(), ScheduleBoard::ChargeEntry::NoDelivery);
+    user.ExpectNothingLeft();
+}
+
+TEST_F(AddedItemsTest, SecondSaveWithoutANewChoiceCopiesTheFirstEntryOfTheTable) {
+    OpenOverSlip({.number = u"7"_s, .recurring = u"False"_s});
+    Enter(1, u"2"_s);
+    added.AddToSlip();
+    added.Open();
+    added.SaveSlip();
+    added.AddToSlip();
+    added.SaveSlip();
+    EXPECT_EQ(folder.Read(ItemName(u"20260002"_s)),
+              QByteArray(copyItemBytes).replace("20260001", "20260002"));
+    EXPECT_EQ(office.slips.SlipCount, 3);
+    EXPECT_FALSE(added.SaveIsEnabled);
 }
 
 TEST_F(AddedItemsTest, SavingARecurringSlipMovesTheOldOneOn) {

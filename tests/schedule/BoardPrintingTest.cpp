@@ -117,6 +117,21 @@ TEST_F(BoardPrintingTest, NothingMarkedIsToldAndNothingPrinted) {
     EXPECT_TRUE(events.isEmpty());
 }
 
+TEST_F(BoardPrintingTest, MessagesOfThePressComeWithPromptsOffToo) {
+    office.settings.PromptsOn = false;
+    OpenThree();
+    user.ExpectMessage(u"No Deliveries for Flatbed Truck on 3/16/2026 have been Selected"_s,
+                       u"No Deliveries"_s);
+    PrintSchedule();
+    board.ToggleMark(1);
+    ExpectConfirmation(Answer::Yes);
+    ExpectClosingQuestion(Answer::No);
+    PrintBlankInvoices();
+    printer.FailingText = int(printer.Texts.size()) + 3;
+    ExpectPrintError();
+    PrintSchedule();
+}
+
 TEST_F(BoardPrintingTest, PercentSignInAVehicleNameIsTextInTheMessage) {
     OpenBoard();
     board.ChooseVehicle(u"100%2 Truck"_s);

@@ -106,6 +106,26 @@ TEST_F(InvoicePostingTest, NameListedTwiceGivesTwoRecords) {
     EXPECT_EQ(folder.Read(soldItems), record + record);
 }
 
+TEST_F(InvoicePostingTest, ProductsThatHaveChangedSinceTheLastInvoiceCountAsTheyAreNow) {
+    SetProducts({u"Gravel"_s});
+    AddLine(u"3"_s, u"Gravel"_s);
+    AddLine(u"1"_s, u"Sand"_s);
+    PostAll();
+    QByteArray expected = SoldItemBytes("Gravel", "20260001", Bytes("\x03\x00", 2));
+    SetProducts({u"Sand"_s});
+    PostAll();
+    expected += SoldItemBytes("Sand", "20260001", Bytes("\x01\x00", 2));
+    EXPECT_EQ(folder.Read(soldItems), expected);
+    QStringListModel& names = office.items.ProductNames;
+    names.setData(names.index(0), u"Gravel"_s);
+    PostAll();
+    expected += SoldItemBytes("Gravel", "20260001", Bytes("\x03\x00", 2));
+    EXPECT_EQ(folder.Read(soldItems), expected);
+    SetProducts({});
+    PostAll();
+    EXPECT_EQ(folder.Read(soldItems), expected);
+}
+
 TEST_F(InvoicePostingTest, SameProductOnTwoLinesGivesARecordForEach) {
     SetProducts({u"Gravel"_s});
     AddLine(u"3"_s, u"Gravel"_s);

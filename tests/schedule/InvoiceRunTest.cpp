@@ -501,8 +501,13 @@ TEST_F(InvoiceRunTest, HourglassShowsWhileThePageIsPrinted) {
     ExpectConfirmation(Answer::No);
     ExpectRetry(Answer::No);
     user.BusyChanges.clear();
+    std::vector<std::vector<bool>> atQuestions;
+    user.WhileMessageIsOpen = [&] { atQuestions.push_back(user.BusyChanges); };
     Print();
-    EXPECT_EQ(user.BusyChanges, (std::vector<bool>{true, false}));
+    const std::vector<bool> onAndOff = {true, false};
+    // It is off again by the first question, and the questions leave it so.
+    EXPECT_EQ(atQuestions, (std::vector<std::vector<bool>>{onAndOff, onAndOff}));
+    EXPECT_EQ(user.BusyChanges, onAndOff);
 }
 
 TEST_F(InvoiceRunTest, FullDiskAtTheSoldItemsSkipsThemAlone) {

@@ -300,6 +300,19 @@ TEST_F(InvoiceTotalsTest, SecondTaxNotAppliedKeepsTheSurchargeOfTheSlipBefore) {
     EXPECT_EQ(captions.lblGrandtotal, u"$17.57"_s);
 }
 
+TEST_F(InvoiceTotalsTest, GraduatedSchemeTaxesAtBothRatesThoughOnlyTheSecondTaxIsApplied) {
+    settings.ckApplyGraduated = 1;
+    settings.ckApply1stTax = 0;
+    Calculate(workedSubTotal);
+    // The scheme asks for the second tax alone, never for the first.
+    EXPECT_EQ(captions.lblTax1, u"0.915625"_s);
+    EXPECT_EQ(captions.lblTax2, u"0.21975"_s);
+    EXPECT_EQ(captions.lblGrandtotal, u"$15.79"_s);
+    Calculate(2'000'000);
+    EXPECT_EQ(captions.lblTax1, u"$3.00"_s);
+    EXPECT_EQ(captions.lblTax2, u"$2.00"_s);
+}
+
 TEST_F(InvoiceTotalsTest, SurchargeIsFormattedAsCurrencyText) {
     settings.ckApplyGraduated = 1;
     settings.txtGradulated = {u"100"_s, u"1250.5"_s};

@@ -720,6 +720,31 @@ TEST_F(ScheduleBoardTest, EnterMovesRightFromTheSlipNumberAndLeftFromTheTime) {
     EXPECT_EQ(board.EditCell(u'1'), ScheduleBoard::CursorMove::None);
 }
 
+TEST_F(ScheduleBoardTest, EnterInAnyOtherColumnMultipliesAndStays) {
+    StoreSlip({.number = u"500"_s});
+    OpenBoard();
+    SetCell(1, ScheduleColumn::Time, u"2"_s);
+    for (const ScheduleColumn column :
+         {ScheduleColumn::Select, ScheduleColumn::Customer, ScheduleColumn::AccountNo,
+          ScheduleColumn::DeliveryCharge, ScheduleColumn::Recurring, ScheduleColumn::Frequency,
+          ScheduleColumn::TimeSortKey}) {
+        SetCell(1, ScheduleColumn::DeliveryCharge, u"$0.00"_s);
+        SetCurrent(1, column);
+        EXPECT_EQ(board.EditCell(enterKey), ScheduleBoard::CursorMove::None);
+        EXPECT_EQ(board.Cell(1, ScheduleColumn::DeliveryCharge), u"$1,000.00"_s) << int(column);
+    }
+    EXPECT_EQ(user.Beeps, 0);
+}
+
+TEST_F(ScheduleBoardTest, ChargeWithoutADeliveryIsToldOfWithPromptsOffToo) {
+    office.settings.PromptsOn = false;
+    OpenBoard();
+    board.txtDeliveryCharge = u"5"_s;
+    user.ExpectMessage(u"You have not selected a Delivery from the Grid"_s);
+    EXPECT_EQ(board.EnterCharge(), ScheduleBoard::ChargeEntry::NoDelivery);
+    user.ExpectNothingLeft();
+}
+
 TEST_F(ScheduleBoardTest, EnterBeepsAndStillMovesWhenTheTwoAreNotNumbers) {
     StoreSlip({.number = u"1"_s});
     OpenBoard();

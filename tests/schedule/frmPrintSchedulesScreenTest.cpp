@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QSignalSpy>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -240,6 +241,25 @@ TEST_F(PrintSchedulesScreen, ClickOnTheChosenVehicleLoadsItsDeliveriesAnew) {
     EXPECT_EQ(Cell(2, chargeColumn), u"$0.00"_s);
 }
 
+TEST_F(PrintSchedulesScreen, ClickOnAVehicleLoadsTheGridOnce) {
+    WriteBusiness();
+    Open();
+    for (const int vehicle : {1, 1, 0}) {
+        const QSignalSpy loads(&office.board.fgSchedule, &QAbstractItemModel::modelReset);
+        ClickVehicle(vehicle);
+        EXPECT_EQ(loads.count(), 1) << vehicle;
+    }
+}
+
+TEST_F(PrintSchedulesScreen, ArrowKeyInTheVehiclesLoadsTheGridOnce) {
+    WriteBusiness();
+    Open();
+    const QSignalSpy loads(&office.board.fgSchedule, &QAbstractItemModel::modelReset);
+    Press(Find<QListView>(board, u"lstVehicles"_s), Qt::Key_Down);
+    EXPECT_EQ(loads.count(), 1);
+    EXPECT_EQ(Caption(u"Label1(14)"_s), u"Tanker - 3/9/2026"_s);
+}
+
 TEST_F(PrintSchedulesScreen, UpDownStepsTheDateByOneDay) {
     WriteBusiness();
     Open();
@@ -310,6 +330,31 @@ TEST_F(PrintSchedulesScreen, SecondClickOnTheSameRowRemovesTheMark) {
     EXPECT_TRUE(Button(1)->isEnabled());
 }
 
+TEST_F(PrintSchedulesScreen, RemovingTheMarkLeavesADisabledEnterToGridDisabled) {
+    WriteBusiness();
+    Open();
+    ClickCell(grid, 1, selectColumn);
+    Button(1)->setEnabled(false);
+    ClickCell(grid, 1, selectColumn);
+    EXPECT_EQ(Cell(1, selectColumn), QString());
+    EXPECT_FALSE(Button(1)->isEnabled());
+}
+
+TEST_F(PrintSchedulesScreen, ClickOnARowWhoseSlipFilesHaveGoneIsAFailureThatNamesTheFile) {
+    WriteBusiness();
+    Open();
+    folder.Remove(ItemName(u"502"_s));
+    ClickCell(grid, 1, customerColumn);
+    ASSERT_EQ(Failures().size(), 1U);
+    EXPECT_EQ(Failures()[0].Kind(), FailureKind::FileNotFound);
+    EXPECT_TRUE(Failures()[0].Sentence().contains(u"TesselDelivery/DeliveryItems/502.txt"_s));
+    folder.Remove(HeaderName(u"502"_s));
+    ClickCell(grid, 1, customerColumn);
+    ASSERT_EQ(Failures().size(), 2U);
+    EXPECT_EQ(Failures()[1].Kind(), FailureKind::FileNotFound);
+    EXPECT_TRUE(Failures()[1].Sentence().contains(u"TesselDelivery/Deliveries/502.txt"_s));
+}
+
 TEST_F(PrintSchedulesScreen, ClickInAnotherColumnOpensTheSlipAndDisablesTheToggle) {
     WriteBusiness();
     Open();
@@ -363,6 +408,7 @@ TEST_F(PrintSchedulesScreen, EmptyDayKeepsOneRowThatLoadsNothing) {
 
 TEST_F(PrintSchedulesScreen, TypedDigitReplacesTheZeroInTheChargeBox) {
     Open();
+    EXPECT_EQ(Charge()->text(), u"$0.00"_s);
     Charge()->setFocus();
     Type(Charge(), u"12.5"_s);
     EXPECT_EQ(Charge()->text(), u"12.5"_s);
@@ -456,6 +502,7 @@ TEST_F(PrintSchedulesScreen, ToggleShowsTheRowsSlipUnderTheTablesNumber) {
     Open();
     // The first row in time order is slip 502; the first in folder order is 501.
     ClickCell(grid, 1, selectColumn);
+    EXPECT_FALSE(Find<QWidget>(board, u"fraInvoiceNo"_s)->isVisible());
     Click(board, u"cmdPrint(12)"_s);
     auto* panel = Find<Card>(board, u"fraSlip"_s);
     EXPECT_TRUE(panel->isVisible());
@@ -546,6 +593,14 @@ TEST_F(PrintSchedulesScreen, PopulateInvoicesFollowsTheSetting) {
     EXPECT_TRUE(Find<QCheckBox>(board, u"ckPopulated"_s)->isChecked());
 }
 
+TEST_F(PrintSchedulesScreen, PopulateInvoicesIsUntickedWhenTheSettingIs) {
+    office.settings.ckPopulateInvoices = 0;
+    Open();
+    Find<QCheckBox>(board, u"ckPopulated"_s)->setChecked(true);
+    dynamic_cast<frmPrintSchedules&>(*screens.Find(board)).Initform();
+    EXPECT_FALSE(Find<QCheckBox>(board, u"ckPopulated"_s)->isChecked());
+}
+
 TEST_F(PrintSchedulesScreen, PrintWithNothingMarkedPrintsNothing) {
     WriteBusiness();
     Open();
@@ -618,8 +673,11 @@ TEST_F(PrintSchedulesScreen, PanelHoldsTheSlipOfTheInvoice) {
     office.board.fgSchedule.SetCurrent(1, customerColumn);
     ExpectConfirmation(Answer::Yes);
     ExpectClosingQuestion(Answer::No);
+    EXPECT_EQ(Caption(u"lblCustomer(0)"_s), u"Baker"_s);
+    QStringList shownAtQuestions;
+    user.WhileMessageIsOpen = [&] { shownAtQuestions += Caption(u"lblCustomer(0)"_s); };
     Click(board, u"cmdPrint(3)"_s);
-    EXPECT_EQ(Caption(u"lblCustomer(0)"_s), u"Corner Grocery"_s);
+    EXPECT_EQ(shownAtQuestions, (QStringList{u"Corner Grocery"_s, u"Corner Grocery"_s}));
 }
 
 TEST_F(PrintSchedulesScreen, KeepingTheInvoicedSlipEndsTheProgramWithTheFailureReport) {

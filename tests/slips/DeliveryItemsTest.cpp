@@ -49,6 +49,13 @@ protected:
                             u"Item Deletion"_s, answer);
         items.DeleteItem();
     }
+    /// A hundred lines of one unit of gravel, at $5.00 each.
+    void FillSlip() {
+        for (int i = 0; i < 99; ++i)
+            Post(Gravel, u"1"_s);
+        user.ExpectMessage(u"The Slip is full"_s);
+        Post(Gravel, u"1"_s);
+    }
     void ExpectCapacityMessage(const QString& units, const QString& vehicle) {
         user.ExpectMessage(units + u" exceeds the load capacity\nof "_s + vehicle +
                            u"\nEnter a lower delivery amount"_s);
@@ -104,6 +111,17 @@ TEST_F(DeliveryItemsTest, EachPostLeavesOneEmptyRowBelowAndMovesToIt) {
     EXPECT_EQ(items.fgDelivery.CurrentRow(), 3);
     EXPECT_EQ(Row(3), (QStringList{QString(), QString(), QString(), QString()}));
     EXPECT_EQ(form.txtTotal, u"$9.70"_s);
+}
+
+TEST_F(DeliveryItemsTest, PostMovesOnByOneRowFromWhereverTheOperatorStands) {
+    Post(Gravel, u"1"_s);
+    Post(Sand, u"2"_s);
+    Post(Gravel, u"3"_s);
+    items.fgDelivery.SetCurrent(1, 3);
+    Post(Sand, u"4"_s);
+    EXPECT_EQ(items.fgDelivery.CurrentRow(), 2);
+    EXPECT_EQ(items.fgDelivery.CurrentColumn(), 3);
+    EXPECT_EQ(Row(4), (QStringList{u"4"_s, u"Sand"_s, u"$2.35"_s, u"$9.40"_s}));
 }
 
 TEST_F(DeliveryItemsTest, PostEmptiesTheUnitsAndSelectsTheFirstItem) {
@@ -495,6 +513,35 @@ TEST_F(DeliveryItemsTest, PostsAfterADeletionAddToTheHundredRows) {
     EXPECT_EQ(form.txtTotal, u"$2.35"_s);
 }
 
+TEST_F(DeliveryItemsTest, DeletionFromASlipBeyondItsHundredLinesLosesNoOtherLine) {
+    FillSlip();
+    PostFree(u"Crates"_s, u"1"_s);
+    PostFree(u"Pallets"_s, u"3"_s);
+    Delete(1, u"Gravel, fine"_s);
+    EXPECT_EQ(items.SlipItemCount, 101);
+    EXPECT_EQ(items.fgDelivery.Rows(), 103);
+    EXPECT_EQ(Row(101), (QStringList{u"3"_s, u"Pallets"_s, u"$0.00"_s, u"$0.00"_s}));
+    items.RecalculateTotal();
+    EXPECT_EQ(form.txtTotal, u"$495.00"_s);
+}
+
+TEST_F(DeliveryItemsTest, SlipOfAHundredAndOneLinesTakesAPostAfterADeletion) {
+    FillSlip();
+    PostFree(u"Crates"_s, u"1"_s);
+    Delete(1, u"Gravel, fine"_s);
+    EXPECT_EQ(items.fgDelivery.Rows(), 102);
+    PostFree(u"Pallets"_s, u"3"_s);
+    EXPECT_EQ(items.SlipItemCount, 101);
+    EXPECT_EQ(Row(101), (QStringList{u"3"_s, u"Pallets"_s, u"$0.00"_s, u"$0.00"_s}));
+}
+
+TEST_F(DeliveryItemsTest, DeletionFromAFullSlipSetsTheRows) {
+    FillSlip();
+    Delete(1, u"Gravel, fine"_s);
+    EXPECT_EQ(items.SlipItemCount, 99);
+    EXPECT_EQ(items.fgDelivery.Rows(), 101);
+}
+
 TEST_F(DeliveryItemsTest, NoKeepsTheLine) {
     Post(Gravel, u"2"_s);
     Delete(1, u"Gravel, fine"_s, Answer::No);
@@ -540,13 +587,8 @@ TEST_F(DeliveryItemsTest, ClearingTakesLinesUnitsReferenceAndTotalAway) {
 TEST_F(DeliveryItemsTest, TemplateReplacesTheLinesAtItsOwnPrices) {
     Post(Gravel, u"2"_s);
     form.txtReference = u"PO 7"_s;
-    const auto line = [](const QByteArray& units, const QByteArray& description,
-                         const QByteArray& price) {
-        return units.leftJustified(10, ' ') + description.leftJustified(45, ' ') +
-               price.leftJustified(10, ' ') + "True ";
-    };
     folder.Write(u"Templates/Deliveries/Week.txt"_s,
-                 line("3", "Sand", "9.00") + line("1.5", "Heating Oil", "10.00"));
+                 TemplateLine("3", "Sand", "9.00") + TemplateLine("1.5", "Heating Oil", "10.00"));
     office.templates.RefreshList();
     office.templates.SelectTemplate(0);
     items.LoadTemplate();

@@ -1,7 +1,7 @@
 #include "slips/DeliveryTemplates.h"
 
 #include "slips/DeliverySlipRoutines.h"
-#include "support/OfficeTest.h"
+#include "slips/DeliveryWriting.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -14,12 +14,6 @@ const QString templatesFolder = u"Templates/Deliveries/"_s;
 const QString prompt = u"Enter a Name for this Template\nDo not enter /\\,.-:; Characters\n"
                        u"Do not enter .txt (this is done automatically"_s;
 const QString title = u"Save Invoice Template"_s;
-
-/// The 70 bytes of a line as they lie in a template.
-QByteArray Line(const QByteArray& units, const QByteArray& description, const QByteArray& price) {
-    return units.leftJustified(10, ' ') + description.leftJustified(45, ' ') +
-           price.leftJustified(10, ' ') + "True ";
-}
 
 } // namespace
 
@@ -225,7 +219,8 @@ TEST_F(DeliveryTemplatesTest, LinesOfUnits0AreLeftOut) {
     Post(u"dozen"_s, u"Letters"_s, u"$2.00"_s);
     Post(u".5"_s, u"Salt"_s, u"$7.00"_s);
     SaveAs(u"Week"_s);
-    EXPECT_EQ(Bytes(u"Week.txt"_s), Line("3", "Gravel", "4.10") + Line(".5", "Salt", "7.00"));
+    EXPECT_EQ(Bytes(u"Week.txt"_s),
+              TemplateLine("3", "Gravel", "4.10") + TemplateLine(".5", "Salt", "7.00"));
 }
 
 TEST_F(DeliveryTemplatesTest, UnitsCountByTheNumberTheyBeginWith) {
@@ -233,14 +228,14 @@ TEST_F(DeliveryTemplatesTest, UnitsCountByTheNumberTheyBeginWith) {
     Post(u"1.2.3"_s, u"Sand"_s, u"$2.00"_s);
     SaveAs(u"Week"_s);
     EXPECT_EQ(Bytes(u"Week.txt"_s),
-              Line("3 boxes", "Gravel", "4.10") + Line("1.2.3", "Sand", "2.00"));
+              TemplateLine("3 boxes", "Gravel", "4.10") + TemplateLine("1.2.3", "Sand", "2.00"));
 }
 
 TEST_F(DeliveryTemplatesTest, RowsSetTo101ByADeletedLineAreNoLines) {
     Post(u"3"_s, u"Gravel"_s, u"$4.10"_s);
     fgDelivery.SetRows(101);
     SaveAs(u"Week"_s);
-    EXPECT_EQ(Bytes(u"Week.txt"_s), Line("3", "Gravel", "4.10"));
+    EXPECT_EQ(Bytes(u"Week.txt"_s), TemplateLine("3", "Gravel", "4.10"));
 }
 
 TEST_F(DeliveryTemplatesTest, SlipWithoutLinesGivesAnEmptyFile) {
@@ -265,37 +260,38 @@ TEST_F(DeliveryTemplatesTest, PriceLosesItsFirstCharacterWhateverThatIs) {
     Post(u"1"_s, u"No price"_s, QString());
     Post(u"1"_s, u"Negative"_s, u"-$2.00"_s);
     SaveAs(u"Week"_s);
-    EXPECT_EQ(Bytes(u"Week.txt"_s), Line("1", "From a template", ".10") +
-                                        Line("1", "One digit", "") + Line("1", "No price", "") +
-                                        Line("1", "Negative", "$2.00"));
+    EXPECT_EQ(Bytes(u"Week.txt"_s),
+              TemplateLine("1", "From a template", ".10") + TemplateLine("1", "One digit", "") +
+                  TemplateLine("1", "No price", "") + TemplateLine("1", "Negative", "$2.00"));
 }
 
 TEST_F(DeliveryTemplatesTest, SavingOverATemplateAsksFirst) {
-    Put(u"Week.txt"_s, Line("9", "Old", "1.00"));
+    Put(u"Week.txt"_s, TemplateLine("9", "Old", "1.00"));
     Post(u"3"_s, u"Gravel"_s, u"$4.10"_s);
     templates.cmdTemplate[DeliveryTemplates::SaveAsTemplate] = true;
     SaveOver(u"Week"_s, Answer::No);
-    EXPECT_EQ(Bytes(u"Week.txt"_s), Line("9", "Old", "1.00"));
+    EXPECT_EQ(Bytes(u"Week.txt"_s), TemplateLine("9", "Old", "1.00"));
     EXPECT_TRUE(IsEnabled(DeliveryTemplates::SaveAsTemplate));
     SaveOver(u"Week"_s, Answer::Yes);
-    EXPECT_EQ(Bytes(u"Week.txt"_s), Line("3", "Gravel", "4.10"));
+    EXPECT_EQ(Bytes(u"Week.txt"_s), TemplateLine("3", "Gravel", "4.10"));
     EXPECT_FALSE(IsEnabled(DeliveryTemplates::SaveAsTemplate));
 }
 
 TEST_F(DeliveryTemplatesTest, SaveOverALongerTemplateKeepsItsTail) {
-    Put(u"Week.txt"_s,
-        Line("1", "One", "1.00") + Line("2", "Two", "2.00") + Line("3", "Three", "3.00"));
+    Put(u"Week.txt"_s, TemplateLine("1", "One", "1.00") + TemplateLine("2", "Two", "2.00") +
+                           TemplateLine("3", "Three", "3.00"));
     Post(u"7"_s, u"Gravel"_s, u"$4.10"_s);
     SaveOver(u"Week"_s, Answer::Yes);
-    EXPECT_EQ(Bytes(u"Week.txt"_s),
-              Line("7", "Gravel", "4.10") + Line("2", "Two", "2.00") + Line("3", "Three", "3.00"));
+    EXPECT_EQ(Bytes(u"Week.txt"_s), TemplateLine("7", "Gravel", "4.10") +
+                                        TemplateLine("2", "Two", "2.00") +
+                                        TemplateLine("3", "Three", "3.00"));
 }
 
 TEST_F(DeliveryTemplatesTest, NameIsTakenAsItIsTyped) {
     Post(u"3"_s, u"Gravel"_s, u"$4.10"_s);
     SaveAs(u" Caf\u00e9, No. 7-\u0141\u00f3d\u017a:; "_s);
     EXPECT_EQ(Bytes(u" Caf\u00e9, No. 7-\u0141\u00f3d\u017a:; .txt"_s),
-              Line("3", "Gravel", "4.10"));
+              TemplateLine("3", "Gravel", "4.10"));
     EXPECT_EQ(Listed(), QStringList{u" Caf\u00e9, No. 7-\u0141\u00f3d\u017a:; .txt"_s});
     SaveAs(u"Week.txt"_s);
     EXPECT_TRUE(folder.Has(templatesFolder + u"Week.txt.txt"_s));
@@ -304,13 +300,13 @@ TEST_F(DeliveryTemplatesTest, NameIsTakenAsItIsTyped) {
 TEST_F(DeliveryTemplatesTest, TemplateLostFromItsFolderComesBackFromBackupWithTheQuestion) {
     folder.MakeFolder(u"Backup/Templates"_s);
     folder.MakeFolder(u"Backup/Templates/Deliveries"_s);
-    folder.Write(u"Backup/Templates/Deliveries/Week.txt"_s, Line("9", "Old", "1.00"));
+    folder.Write(u"Backup/Templates/Deliveries/Week.txt"_s, TemplateLine("9", "Old", "1.00"));
     SaveOver(u"Week"_s, Answer::No);
-    EXPECT_EQ(Bytes(u"Week.txt"_s), Line("9", "Old", "1.00"));
+    EXPECT_EQ(Bytes(u"Week.txt"_s), TemplateLine("9", "Old", "1.00"));
 }
 
 TEST_F(DeliveryTemplatesTest, NameWithASeparatorFailsAndChangesNothing) {
-    Put(u"Old.txt"_s, Line("9", "Old", "1.00"));
+    Put(u"Old.txt"_s, TemplateLine("9", "Old", "1.00"));
     Post(u"3"_s, u"Gravel"_s, u"$4.10"_s);
     ExpectSaveFails(u"north/Monday"_s, FailureKind::PathNotFound);
     ExpectSaveFails(u"north\\Monday"_s, FailureKind::PathNotFound);
@@ -345,7 +341,7 @@ TEST_F(DeliveryTemplatesTest, FolderThatCantBeWrittenStopsTheSave) {
 }
 
 TEST_F(DeliveryTemplatesTest, FullDiskStopsTheSaveAndLeavesOtherTemplatesAlone) {
-    Put(u"Old.txt"_s, Line("9", "Old", "1.00"));
+    Put(u"Old.txt"_s, TemplateLine("9", "Old", "1.00"));
     for (int line = 0; line < 3; ++line)
         Post(u"3"_s, u"Gravel"_s, u"$4.10"_s);
     const RuntimeFailure failure = FailureOf([this] {
@@ -355,14 +351,15 @@ TEST_F(DeliveryTemplatesTest, FullDiskStopsTheSaveAndLeavesOtherTemplatesAlone) 
     EXPECT_EQ(failure.Kind(), FailureKind::DiskFull);
     EXPECT_EQ(failure.Sentence(),
               u"Writing record 2 of Templates/Deliveries/Week.txt failed: File too large."_s);
-    EXPECT_EQ(Bytes(u"Old.txt"_s), Line("9", "Old", "1.00"));
+    EXPECT_EQ(Bytes(u"Old.txt"_s), TemplateLine("9", "Old", "1.00"));
 }
 
 // Loading.
 
 TEST_F(DeliveryTemplatesTest, LoadFillsARowForEachLineAndKeepsAnEmptyOneBelow) {
-    Put(u"Week.txt"_s, Line("3", "Gravel", "4.10") + Line("2.5", "Caf\xe9 \x80", "1,250.00") +
-                           Line(" 1", " Salt", " 0.00"));
+    Put(u"Week.txt"_s, TemplateLine("3", "Gravel", "4.10") +
+                           TemplateLine("2.5", "Caf\xe9 \x80", "1,250.00") +
+                           TemplateLine(" 1", " Salt", " 0.00"));
     EXPECT_EQ(LoadFile(u"Week.txt"_s), 3);
     ASSERT_EQ(fgDelivery.Rows(), 5);
     EXPECT_EQ(Row(1), (QStringList{u"3"_s, u"Gravel"_s, u"4.10"_s, u"$12.30"_s}));
@@ -373,7 +370,7 @@ TEST_F(DeliveryTemplatesTest, LoadFillsARowForEachLineAndKeepsAnEmptyOneBelow) {
 }
 
 TEST_F(DeliveryTemplatesTest, TemplateOfOneLineLoads) {
-    Put(u"Week.txt"_s, Line("3", "Gravel", "4.10"));
+    Put(u"Week.txt"_s, TemplateLine("3", "Gravel", "4.10"));
     EXPECT_EQ(LoadFile(u"Week.txt"_s), 1);
     EXPECT_EQ(Row(1), (QStringList{u"3"_s, u"Gravel"_s, u"4.10"_s, u"$12.30"_s}));
 }
@@ -390,20 +387,20 @@ TEST_F(DeliveryTemplatesTest, LoadedLinesKeepTheTemplatesPrices) {
                  QByteArray("Gravel").leftJustified(50, ' ') + QByteArray(54, '\0'));
     office.items.RefreshAll();
     ASSERT_EQ(office.items.ProductPrices.stringList(), QStringList{u"$0.00"_s});
-    Put(u"Week.txt"_s, Line("3", "Gravel", "4.10"));
+    Put(u"Week.txt"_s, TemplateLine("3", "Gravel", "4.10"));
     LoadFile(u"Week.txt"_s);
     EXPECT_EQ(Row(1), (QStringList{u"3"_s, u"Gravel"_s, u"4.10"_s, u"$12.30"_s}));
 }
 
 TEST_F(DeliveryTemplatesTest, TemplateSavedAgainAfterALoadLosesTheFirstDigitOfItsPrices) {
-    Put(u"Week.txt"_s, Line("3", "Gravel", "14.10"));
+    Put(u"Week.txt"_s, TemplateLine("3", "Gravel", "14.10"));
     LoadFile(u"Week.txt"_s);
     SaveAs(u"Copy"_s);
-    EXPECT_EQ(Bytes(u"Copy.txt"_s), Line("3", "Gravel", "4.10"));
+    EXPECT_EQ(Bytes(u"Copy.txt"_s), TemplateLine("3", "Gravel", "4.10"));
 }
 
 TEST_F(DeliveryTemplatesTest, SavedTailIsLoadedToo) {
-    Put(u"Week.txt"_s, Line("1", "One", "1.00") + Line("2", "Two", "2.00"));
+    Put(u"Week.txt"_s, TemplateLine("1", "One", "1.00") + TemplateLine("2", "Two", "2.00"));
     Post(u"7"_s, u"Gravel"_s, u"$4.10"_s);
     SaveOver(u"Week"_s, Answer::Yes);
     EXPECT_EQ(LoadFile(u"Week.txt"_s), 2);
@@ -414,15 +411,15 @@ TEST_F(DeliveryTemplatesTest, SavedTailIsLoadedToo) {
 TEST_F(DeliveryTemplatesTest, MoreLinesThanASlipTakesAreLoadedAll) {
     QByteArray bytes;
     for (int line = 1; line <= 150; ++line)
-        bytes += Line(QByteArray::number(line), "Gravel", "1.00");
+        bytes += TemplateLine(QByteArray::number(line), "Gravel", "1.00");
     Put(u"Week.txt"_s, bytes);
     EXPECT_EQ(LoadFile(u"Week.txt"_s), 150);
     EXPECT_EQ(Row(150), (QStringList{u"150"_s, u"Gravel"_s, u"1.00"_s, u"$150.00"_s}));
 }
 
 TEST_F(DeliveryTemplatesTest, SelectedFileIsTheOneLoaded) {
-    Put(u"April.txt"_s, Line("1", "Salt", "1.00"));
-    Put(u"Caf\u00e9.txt"_s, Line("2", "Beans", "9.00"));
+    Put(u"April.txt"_s, TemplateLine("1", "Salt", "1.00"));
+    Put(u"Caf\u00e9.txt"_s, TemplateLine("2", "Beans", "9.00"));
     LoadFile(u"Caf\u00e9.txt"_s);
     EXPECT_EQ(Row(1), (QStringList{u"2"_s, u"Beans"_s, u"9.00"_s, u"$18.00"_s}));
 }
@@ -431,26 +428,28 @@ TEST_F(DeliveryTemplatesTest, GermanPriceLosesItsFirstDigitSinceItsSignStandsBeh
     UseLocale("de_DE.UTF-8");
     Post(u"3"_s, u"Kies"_s, u"14,10\u00a0\u20ac"_s, u"42,30\u00a0\u20ac"_s);
     SaveAs(u"Woche"_s);
-    EXPECT_EQ(Bytes(u"Woche.txt"_s), Line("3", "Kies", "4,10\xa0\x80"));
+    EXPECT_EQ(Bytes(u"Woche.txt"_s), TemplateLine("3", "Kies", "4,10\xa0\x80"));
     LoadFile(u"Woche.txt"_s);
     EXPECT_EQ(Row(1),
               (QStringList{u"3"_s, u"Kies"_s, u"4,10\u00a0\u20ac"_s, u"12,30\u00a0\u20ac"_s}));
 }
 
 TEST_F(DeliveryTemplatesTest, LessThanHalfOfALineAtTheEndIsNoLine) {
-    Put(u"Week.txt"_s, Line("3", "Gravel", "4.10") + Line("2", "Sand", "2.00").left(34));
+    Put(u"Week.txt"_s,
+        TemplateLine("3", "Gravel", "4.10") + TemplateLine("2", "Sand", "2.00").left(34));
     EXPECT_EQ(LoadFile(u"Week.txt"_s), 1);
     EXPECT_EQ(fgDelivery.Rows(), 3);
 }
 
 TEST_F(DeliveryTemplatesTest, LineWithoutItsFlagIsALine) {
-    Put(u"Week.txt"_s, Line("3", "Gravel", "4.10").left(65));
+    Put(u"Week.txt"_s, TemplateLine("3", "Gravel", "4.10").left(65));
     EXPECT_EQ(LoadFile(u"Week.txt"_s), 1);
     EXPECT_EQ(Row(1), (QStringList{u"3"_s, u"Gravel"_s, u"4.10"_s, u"$12.30"_s}));
 }
 
 TEST_F(DeliveryTemplatesTest, LineCutInTheMiddleIsAFailureThatNamesTheFile) {
-    ExpectLoadFails(Line("3", "Gravel", "4.10") + Line("2", "Sand", "2.00").left(50),
+    ExpectLoadFails(TemplateLine("3", "Gravel", "4.10") +
+                        TemplateLine("2", "Sand", "2.00").left(50),
                     FailureKind::TypeMismatch,
                     u"The text \""_s + QString(10, QChar(0)) +
                         u"\" is not a number (a line of Templates/Deliveries/Week.txt)."_s);
@@ -458,21 +457,34 @@ TEST_F(DeliveryTemplatesTest, LineCutInTheMiddleIsAFailureThatNamesTheFile) {
 
 TEST_F(DeliveryTemplatesTest, UnitsOrPriceThatAreNoNumbersAreFailuresThatNameTheFile) {
     const QString tail = u" is not a number (a line of Templates/Deliveries/Week.txt)."_s;
-    ExpectLoadFails(Line("3 boxes", "Gravel", "4.10"), FailureKind::TypeMismatch,
+    ExpectLoadFails(TemplateLine("3 boxes", "Gravel", "4.10"), FailureKind::TypeMismatch,
                     u"The text \"3 boxes\""_s + tail);
-    ExpectLoadFails(Line("3", "Gravel", "much"), FailureKind::TypeMismatch,
+    ExpectLoadFails(TemplateLine("3", "Gravel", "much"), FailureKind::TypeMismatch,
                     u"The text \"much\""_s + tail);
-    ExpectLoadFails(Line("3", "Gravel", ""), FailureKind::TypeMismatch, u"The text \"\""_s + tail);
+    ExpectLoadFails(TemplateLine("3", "Gravel", ""), FailureKind::TypeMismatch,
+                    u"The text \"\""_s + tail);
 }
 
 TEST_F(DeliveryTemplatesTest, LineTotalBeyondAnAmountIsAnOverflow) {
-    Put(u"Week.txt"_s, Line("1e300", "Gravel", "1e300"));
+    Put(u"Week.txt"_s, TemplateLine("1e300", "Gravel", "1e300"));
     EXPECT_EQ(FailureOf([this] { LoadFile(u"Week.txt"_s); }).Kind(), FailureKind::Overflow);
+}
+
+TEST_F(DeliveryTemplatesTest, FileThatHasGoneSinceItWasListedStopsTheLoadAndIsNotMade) {
+    Put(u"Week.txt"_s, TemplateLine("3", "Gravel", "4.10"));
+    templates.RefreshList();
+    templates.SelectTemplate(0);
+    folder.Remove(templatesFolder + u"Week.txt"_s);
+    const RuntimeFailure failure = FailureOf([this] { templates.LoadTemplate(fgDelivery); });
+    EXPECT_EQ(failure.Kind(), FailureKind::FileNotFound);
+    EXPECT_EQ(failure.Sentence(), u"Opening Templates/Deliveries/Week.txt for reading failed: No "
+                                  "such file or directory."_s);
+    EXPECT_FALSE(folder.Has(templatesFolder + u"Week.txt"_s));
 }
 
 TEST_F(DeliveryTemplatesTest, FileThatCantBeReadStopsTheLoad) {
     DropRootRights(folder);
-    Put(u"Week.txt"_s, Line("3", "Gravel", "4.10"));
+    Put(u"Week.txt"_s, TemplateLine("3", "Gravel", "4.10"));
     ::chmod(folder.PathOf(templatesFolder + u"Week.txt"_s).toUtf8().constData(), 0);
     const RuntimeFailure failure = FailureOf([this] { LoadFile(u"Week.txt"_s); });
     EXPECT_EQ(failure.Kind(), FailureKind::PermissionDenied);
@@ -482,7 +494,7 @@ TEST_F(DeliveryTemplatesTest, FileThatCantBeReadStopsTheLoad) {
 // Deleting.
 
 TEST_F(DeliveryTemplatesTest, DeletionAsksAndCancelKeepsTheFile) {
-    Put(u"Caf\u00e9.txt"_s, Line("3", "Gravel", "4.10"));
+    Put(u"Caf\u00e9.txt"_s, TemplateLine("3", "Gravel", "4.10"));
     templates.RefreshList();
     templates.SetPanelState();
     user.ExpectWarning(u"This will Delete Template\nCaf\u00e9.txt"_s, u"Template Deletion"_s,
@@ -494,7 +506,7 @@ TEST_F(DeliveryTemplatesTest, DeletionAsksAndCancelKeepsTheFile) {
 }
 
 TEST_F(DeliveryTemplatesTest, DeletionOfTheLastTemplateDisablesLoadAndDelete) {
-    Put(u"Week.txt"_s, Line("3", "Gravel", "4.10"));
+    Put(u"Week.txt"_s, TemplateLine("3", "Gravel", "4.10"));
     templates.RefreshList();
     templates.SetPanelState();
     user.ExpectWarning(u"This will Delete Template\nWeek.txt"_s, u"Template Deletion"_s,
@@ -528,9 +540,9 @@ TEST_F(DeliveryTemplatesTest, FileThatTakesThePlaceOfTheDeletedOneIsSelected) {
 }
 
 TEST_F(DeliveryTemplatesTest, DeletedTemplateLeavesAllOtherFilesAsTheyWere) {
-    Put(u"a.txt"_s, Line("3", "Gravel", "4.10"));
+    Put(u"a.txt"_s, TemplateLine("3", "Gravel", "4.10"));
     auto expected = folder.Contents();
-    Put(u"b.txt"_s, Line("1", "Sand", "2.00"));
+    Put(u"b.txt"_s, TemplateLine("1", "Sand", "2.00"));
     templates.RefreshList();
     templates.SelectTemplate(1);
     user.ExpectWarning(u"This will Delete Template\nb.txt"_s, u"Template Deletion"_s, Answer::Ok);
@@ -540,7 +552,7 @@ TEST_F(DeliveryTemplatesTest, DeletedTemplateLeavesAllOtherFilesAsTheyWere) {
 
 TEST_F(DeliveryTemplatesTest, FolderThatCantBeWrittenStopsTheDeletion) {
     DropRootRights(folder);
-    Put(u"Week.txt"_s, Line("3", "Gravel", "4.10"));
+    Put(u"Week.txt"_s, TemplateLine("3", "Gravel", "4.10"));
     templates.RefreshList();
     templates.SetPanelState();
     ::chmod(folder.PathOf(templatesFolder).toUtf8().constData(), 0555);
@@ -549,5 +561,5 @@ TEST_F(DeliveryTemplatesTest, FolderThatCantBeWrittenStopsTheDeletion) {
     const RuntimeFailure failure = FailureOf([this] { templates.DeleteTemplate(); });
     ::chmod(folder.PathOf(templatesFolder).toUtf8().constData(), 0755);
     EXPECT_EQ(failure.Kind(), FailureKind::PermissionDenied);
-    EXPECT_EQ(Bytes(u"Week.txt"_s), Line("3", "Gravel", "4.10"));
+    EXPECT_EQ(Bytes(u"Week.txt"_s), TemplateLine("3", "Gravel", "4.10"));
 }

@@ -4,6 +4,13 @@
 #include "support/OfficeTest.h"
 #include "support/SampleVehicles.h"
 
+/// The 70 bytes of a line as they lie in a template.
+inline QByteArray TemplateLine(const QByteArray& units, const QByteArray& description,
+                               const QByteArray& price) {
+    return units.leftJustified(10, ' ') + description.leftJustified(45, ' ') +
+           price.leftJustified(10, ' ') + "True ";
+}
+
 /// A business that can write delivery slips: two vehicles, three products, an item without a price,
 /// and Corner Grocery as the customer that was handed over.
 inline void PutDeliveryBusiness(const TestFolder& folder, Office& office) {

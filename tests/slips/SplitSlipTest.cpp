@@ -1,6 +1,7 @@
 #include "slips/DeliverySlipRoutines.h"
 #include "support/OfficeTest.h"
 
+#include <functional>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -42,6 +43,15 @@ protected:
         office.slips.LoadSlips(false);
     }
     void Split(int entry = 1) { office.slips.SplitSlip(u"500"_s, entry, grid, u"$12,508.20"_s); }
+    /// The split fails and has left all slips as they were, for the next start as well. The counter
+    /// it has brought up may stand.
+    RuntimeFailure ExpectSplitLeavesSlips(const std::function<void()>& split) {
+        office.slips.LoadDeliveryNo();
+        const auto before = folder.Contents();
+        const RuntimeFailure failure = FailureOf(split);
+        EXPECT_EQ(folder.Contents(), before) << failure.what();
+        return failure;
+    }
     void ExpectDeleteQuestion(Answer answer) {
         user.ExpectQuestion(u"Would you like to DELETE the Recurring Slip?"_s,
                             u"Delete a Recurring Slip"_s, answer);
@@ -185,7 +195,9 @@ TEST_F(SplitSlipTest, RowWithoutAnEntryFailsBeforeAnySlipIsWritten) {
 TEST_F(SplitSlipTest, OldSlipWithoutAFileIsAFailureThatNamesIt) {
     PutSlip();
     folder.Remove(header500);
-    const RuntimeFailure failure = FailureOf([this] { Split(); });
+    const RuntimeFailure failure = ExpectSplitLeavesSlips([this] { Split(); });
+    office.slips.LoadSlips(true);
+    EXPECT_EQ(office.slips.SlipCount, 0);
     EXPECT_EQ(failure.Kind(), FailureKind::FileNotFound);
     EXPECT_TRUE(failure.Sentence().contains(u"TesselDelivery/Deliveries/500.txt"_s));
     EXPECT_FALSE(folder.Has(newItems));
@@ -197,23 +209,44 @@ TEST_F(SplitSlipTest, OldSlipCutInItsAddressesIsAFailureThatLeavesIt) {
     PutSlip();
     const QByteArray cut = SlipHeaderBytes("500", "3/16/2026").chopped(9);
     folder.Write(header500, cut);
-    const RuntimeFailure failure = FailureOf([this] { Split(); });
+    const RuntimeFailure failure = ExpectSplitLeavesSlips([this] { Split(); });
+    office.slips.LoadSlips(true);
+    EXPECT_EQ(office.slips.SlipCount, 1);
     EXPECT_EQ(failure.Kind(), FailureKind::ReadPastEnd);
     EXPECT_TRUE(failure.Sentence().contains(u"TesselDelivery/Deliveries/500.txt"_s));
     EXPECT_EQ(folder.Read(header500), cut);
     EXPECT_EQ(folder.Read(items500), itemBytes);
 }
 
-TEST_F(SplitSlipTest, FullDiskLeavesTheOldSlipAndTheCounter) {
+TEST_F(SplitSlipTest, FullDiskLeavesTheOldSlipAndTheCounterAndNoPartOfTheCopy) {
     PutSlip("True", "0000001");
-    const RuntimeFailure failure = FailureOf([this] {
+    for (int row = 3; row <= 40; ++row)
+        AddItem({u"2"_s, u"Gravel"_s, u"$4.10"_s, u"$8.20"_s});
+    // In the header, and in the item file behind a whole header.
+    for (const unsigned room : {100U, 500U}) {
+        const RuntimeFailure failure = ExpectSplitLeavesSlips([this, room] {
+            const FullDisk disk(room);
+            Split();
+        });
+        EXPECT_EQ(failure.Kind(), FailureKind::DiskFull) << room;
+        EXPECT_EQ(folder.Read(header500), SlipHeaderBytes("500", "3/16/2026", "True", "0000001"));
+        EXPECT_EQ(folder.Read(items500), itemBytes);
+        EXPECT_EQ(folder.Read(counterFile), "20260001\r\n");
+        office.slips.LoadSlips(true);
+        EXPECT_EQ(office.slips.SlipCount, 1);
+    }
+}
+
+TEST_F(SplitSlipTest, FullDiskLeavesASlipThatHasTheNextNumber) {
+    PutSlip();
+    folder.Write(newHeader, SlipHeaderBytes("20260001", "3/17/2026"));
+    folder.Write(newItems, itemBytes);
+    const RuntimeFailure failure = ExpectSplitLeavesSlips([this] {
         const FullDisk disk(100);
         Split();
     });
     EXPECT_EQ(failure.Kind(), FailureKind::DiskFull);
-    EXPECT_EQ(folder.Read(header500), SlipHeaderBytes("500", "3/16/2026", "True", "0000001"));
-    EXPECT_EQ(folder.Read(items500), itemBytes);
-    EXPECT_EQ(folder.Read(counterFile), "20260001\r\n");
+    EXPECT_EQ(folder.Read(newHeader), SlipHeaderBytes("20260001", "3/17/2026"));
 }
 
 TEST_F(SplitSlipTest, FolderThatCantBeWrittenLeavesTheOldSlip) {
@@ -221,7 +254,7 @@ TEST_F(SplitSlipTest, FolderThatCantBeWrittenLeavesTheOldSlip) {
     DropRootRights(folder);
     const QByteArray path = folder.PathOf(u"TesselDelivery/Deliveries"_s).toUtf8();
     ASSERT_EQ(::chmod(path.constData(), 0555), 0);
-    const RuntimeFailure failure = FailureOf([this] { Split(); });
+    const RuntimeFailure failure = ExpectSplitLeavesSlips([this] { Split(); });
     ASSERT_EQ(::chmod(path.constData(), 0755), 0);
     EXPECT_EQ(failure.Kind(), FailureKind::PermissionDenied);
     EXPECT_EQ(folder.Read(header500), SlipHeaderBytes("500", "3/16/2026"));

@@ -222,19 +222,35 @@ TEST_F(StartupScreen, ProductsRoutineShowsTheProducts) {
     EXPECT_TRUE(IsShown(ScreenName::frmServices));
 }
 
-TEST_F(StartupScreen, EachReportRoutineShowsItsReport) {
+TEST_F(StartupScreen, ComingBackLeavesTheFocusOnTheRoutineLastUsed) {
     WriteMasterFiles();
-    const std::vector<std::pair<int, ScreenName>> reports{{7, ScreenName::frmTaxForm},
-                                                          {8, ScreenName::frmSalesReport},
-                                                          {9, ScreenName::frmInvoiceReport}};
-    for (const auto& [routine, report] : reports) {
+    screens.Show(menu);
+    Click(menu, u"lblSub(6)"_s);
+    screens.GoFrom(ScreenName::frmServices, menu);
+    EXPECT_EQ(screens.Find(menu)->focusWidget(), Routine(6));
+}
+
+TEST_F(StartupScreen, ReportRoutinesShowTheirScreens) {
+    WriteMasterFiles();
+    const std::pair<int, ScreenName> reports[] = {{7, ScreenName::frmTaxForm},
+                                                  {8, ScreenName::frmSalesReport},
+                                                  {9, ScreenName::frmInvoiceReport}};
+    for (const auto& [i, report] : reports) {
         screens.Show(menu);
-        Click(menu, u"lblSub(%1)"_s.arg(routine));
-        EXPECT_EQ(office.MenuChoice, routine);
+        Click(menu, u"lblSub(%1)"_s.arg(i));
+        EXPECT_EQ(office.MenuChoice, i);
         EXPECT_FALSE(IsShown(menu));
-        EXPECT_TRUE(IsShown(report)) << routine;
+        EXPECT_TRUE(IsShown(report));
         screens.Hide(report);
     }
+}
+
+TEST_F(StartupScreen, ReportsOpenWithoutMasterFiles) {
+    folder.Write(u"NXInventoriedItems.txt"_s, {});
+    folder.Write(u"Vehicles.txt"_s, {});
+    screens.Show(menu);
+    Click(menu, u"lblSub(9)"_s);
+    EXPECT_TRUE(IsShown(ScreenName::frmInvoiceReport));
 }
 
 TEST_F(StartupScreen, ScheduledDeliveriesRoutineShowsTheRangeView) {

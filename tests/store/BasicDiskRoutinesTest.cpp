@@ -376,6 +376,29 @@ TEST_F(BasicDiskRoutinesTest, WhatLiesBeyondTheEndReadsAsZeroBytes) {
     EXPECT_EQ(QByteArray(record, 3), QByteArray("\0\0\0", 3));
 }
 
+TEST_F(BasicDiskRoutinesTest, RecordsAreReadInOneGoWithZeroBytesBeyondTheEnd) {
+    folder.Write(u"Records.txt"_s, "AAABBBCC");
+    disk.OpenRandom(u"/Records.txt"_s, 3);
+    QByteArray records(13, 'x');
+    disk.ReadRecords(disk.DiskFile, 2, records.data(), 3);
+    EXPECT_EQ(records, QByteArray("AAABBBxxxxxxx", 13));
+    disk.ReadRecords(disk.DiskFile, 4, records.data(), 3);
+    EXPECT_EQ(records, QByteArray("AAABBBCC\0\0\0\0x", 13));
+    disk.ReadRecords(disk.DiskFile, 0, records.data(), 3);
+    EXPECT_EQ(records, QByteArray("AAABBBCC\0\0\0\0x", 13));
+}
+
+TEST_F(BasicDiskRoutinesTest, RecordsReadInOneGoHaveTheFilesRecordLength) {
+    folder.Write(u"Records.txt"_s, "AAABBB");
+    disk.OpenRandom(u"/Records.txt"_s, 3);
+    char records[8] = {};
+    for (const size_t size : {2, 4})
+        ExpectFailure(FailureKind::BadRecord, u"Reading the 2 records of Records.txt failed: "_s,
+                      [&] { disk.ReadRecords(disk.DiskFile, 2, records, size); });
+    EXPECT_EQ(FailureOf([&] { disk.ReadRecords(99, 1, records, 3); }).Kind(),
+              FailureKind::FileNotOpen);
+}
+
 TEST_F(BasicDiskRoutinesTest, RecordThatDoesNotFitTheFilesRecordLengthFails) {
     folder.Write(u"Records.txt"_s, "AAABBB");
     disk.OpenRandom(u"/Records.txt"_s, 3);

@@ -4,7 +4,12 @@
 #include "platform/RegionalFormats.h"
 #include "support/OfficeTest.h"
 
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
 #include <limits>
+#include <random>
 
 using namespace Qt::StringLiterals;
 
@@ -218,6 +223,58 @@ TEST_F(ConversionsTest, CurrencyTextRoundsHalfAwayFromZeroAsThePersonReadsTheNum
     EXPECT_EQ(CurrencyText(Of(10'049)), u"$1.00"_s);
     EXPECT_EQ(CurrencyText(u"1.005"_s), u"$1.01"_s);
     EXPECT_EQ(CurrencyText(u"1.00499999999999999999"_s), u"$1.00"_s);
+}
+
+TEST_F(ConversionsTest, CurrencyTextRoundsEveryAmountAsItsFifteenDigitsRead) {
+    // Rounded by hand from the digits that the C library gives.
+    const auto expected = [](double amount) {
+        char text[64];
+        std::snprintf(text, sizeof text, "%.14e", amount);
+        const std::string digits = text[0] + std::string(text + 2, 14);
+        const int wholeDigits = std::atoi(std::strchr(text, 'e') + 1) + 1;
+        long long cents = std::stoll(digits.substr(0, size_t(wholeDigits + 2)));
+        if (digits[size_t(wholeDigits + 2)] >= '5')
+            ++cents;
+        std::snprintf(text, sizeof text, "%lld.%02lld", cents / 100, cents % 100);
+        return std::string(text);
+    };
+    std::mt19937_64 numbers(1);
+    const auto check = [&](double amount) {
+        const std::string shown = CurrencyText(amount).remove(u',').mid(1).toStdString();
+        ASSERT_EQ(shown, expected(amount)) << std::hexfloat << amount;
+    };
+    for (int i = 0; i < 20'000; ++i) {
+        const double power = std::pow(10, double(numbers() % 10));
+        const double any = power * (1 + 9 * double(numbers() >> 11) / double(1ULL << 53));
+        check(any);
+        // Halves of a cent, and their neighbours in binary.
+        const double half = (std::floor(any * 100) + 0.5) / 100;
+        check(half);
+        check(std::nextafter(half, 0));
+        check(std::nextafter(half, 1e300));
+        check(half * (1 - 5e-15));
+        check(half * (1 - 5.5e-16));
+    }
+    for (double power = 1; power < 1e11; power *= 10) {
+        check(power);
+        check(std::nextafter(power, 1e300));
+        check(std::nextafter(power * 10, 0));
+    }
+}
+
+TEST_F(ConversionsTest, DoubleOfADecimalIsTheNearestOne) {
+    std::mt19937_64 numbers(2);
+    for (int i = 0; i < 20'000; ++i) {
+        QByteArray plain = QByteArray::number(quint64(numbers() >> (numbers() % 60)));
+        const auto place = qsizetype(numbers() % size_t(plain.size() + 1));
+        plain.insert(place, '.');
+        ASSERT_EQ(ToDouble(QString::fromLatin1(plain)), std::strtod(plain.constData(), nullptr))
+            << plain.toStdString();
+    }
+    EXPECT_EQ(ToDouble(u"999999999999999"_s), 999999999999999.0);
+    EXPECT_EQ(ToDouble(u".000000000000001"_s), 1e-15);
+    EXPECT_EQ(ToDouble(u"0"_s), 0.0);
+    EXPECT_EQ(ToDouble(u"5."_s), 5.0);
 }
 
 TEST_F(ConversionsTest, AmountThatRoundsToZeroHasNoSign) {
