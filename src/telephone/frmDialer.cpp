@@ -211,7 +211,7 @@ QWidget* frmDialer::MakeSpeedDialCard() {
     auto* card = new Card(u"Speed Dial"_s);
     card->Rows()->addLayout(MakeSlots());
     card->Rows()->addWidget(
-        SoftLabel(u"Click an entry to call it, or an empty button to add one."_s));
+        SoftLabel(u"Click an entry to choose it, or an empty button to add one."_s));
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(MakeSpeedButton(DeleteEntry, u"Delete Selected Speed Dial &No"_s));
     buttons->addWidget(MakeSpeedButton(RestoreRecipient, u"&Restore Original Call Recipient"_s));
@@ -287,6 +287,7 @@ void frmDialer::cmdDialer_Click(size_t slot) {
 }
 
 void frmDialer::cmdSpeedDialer_Click(Button index) {
+    const QWidget* focused = focusWidget();
     for (size_t field = 0; field < txtDialer.size(); ++field)
         dialer.txtDialer[field] = txtDialer[field]->text();
     switch (index) {
@@ -309,6 +310,9 @@ void frmDialer::cmdSpeedDialer_Click(Button index) {
     for (size_t field = 0; field < txtDialer.size(); ++field)
         txtDialer[field]->setText(dialer.txtDialer[field]);
     ShowAll();
+    // What had the focus may be hidden or disabled now. Its neighbour would dial or restore.
+    if (focused && !(focused->isVisible() && focused->isEnabled()))
+        cmdDialer[dialer.SelectedSlot]->setFocus();
 }
 
 void frmDialer::cmdNewDial_Click() {

@@ -643,14 +643,15 @@ TEST_F(CustomerScreen, TabFollowsTheEye) {
     QStringList order;
     QWidget* control = Button(u"cmdAcctType"_s);
     control->setFocus();
-    for (int i = 0; i < 12; ++i) {
+    for (int i = 0; i < 13; ++i) {
         order += Focused();
         Press(screens.Find(screen)->focusWidget(), Qt::Key_Tab);
     }
-    EXPECT_EQ(order, (QStringList{u"cmdAcctType"_s, u"txtCustomer(0)"_s, u"txtCustomer(1)"_s,
-                                  u"txtCustomer(2)"_s, u"txtCustomer(3)"_s, u"cboCity"_s,
-                                  u"cboStates"_s, u"txtCustomer(5)"_s, u"txtCustomer(6)"_s,
-                                  u"txtCustomer(11)"_s, u"txtCustomer(7)"_s, u"Command1(0)"_s}));
+    EXPECT_EQ(order,
+              (QStringList{u"cmdAcctType"_s, u"txtCustomer(0)"_s, u"txtCustomer(1)"_s,
+                           u"txtCustomer(2)"_s, u"txtCustomer(3)"_s, u"cboCity"_s, u"cboStates"_s,
+                           u"txtCustomer(5)"_s, u"txtCustomer(6)"_s, u"Image1(1)"_s,
+                           u"txtCustomer(11)"_s, u"txtCustomer(7)"_s, u"Command1(0)"_s}));
 }
 
 TEST_F(CustomerScreen, UnreadableCustomerFileStopsTheProgram) {

@@ -42,7 +42,14 @@ void ScreenTest::Press(QWidget* control, Qt::Key key) {
 }
 
 void ScreenTest::Type(QWidget* control, const QString& text) {
-    QTest::keyClicks(control, text);
+    constexpr char16_t afterAscii = 128;
+    // The toolkit has no keys of its own for the characters behind the first 128.
+    for (const QChar character : text) {
+        if (character < afterAscii)
+            QTest::keyClick(control, character.toLatin1());
+        else
+            QTest::sendKeyEvent(QTest::Click, control, Qt::Key_unknown, character, Qt::NoModifier);
+    }
 }
 
 void ScreenTest::CloseByUser(ScreenName screen) const {

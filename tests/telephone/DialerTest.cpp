@@ -466,6 +466,18 @@ TEST_F(DialerTest, DeletingEntry2Of4MovesEntries3And4ToButtons2And3) {
     EXPECT_EQ(folder.Read(speedFile), "Ann\r\n1\r\nCyd\r\n3\r\nDan\r\n4\r\n");
 }
 
+TEST_F(DialerTest, EntryThatHasComeUpCanBeDeletedNext) {
+    FillFour();
+    dialer.cmdDialer_Click(1);
+    for (const QString& name : {u"Ben"_s, u"Cyd"_s}) {
+        user.ExpectQuestion(u"This will delete SpeedDial entry  %1\nAre you Sure"_s.arg(name),
+                            u"Delete Speed Dial"_s, Answer::Yes);
+        dialer.DeleteEntry();
+        EXPECT_TRUE(dialer.IsEntryChosen);
+    }
+    EXPECT_EQ(folder.Read(speedFile), "Ann\r\n1\r\nDan\r\n4\r\n");
+}
+
 TEST_F(DialerTest, NoToTheDeletionKeepsTheEntryAndClosesTheDelete) {
     FillFour();
     dialer.cmdDialer_Click(1);

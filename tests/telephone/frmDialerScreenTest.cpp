@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QClipboard>
 #include <QPushButton>
+#include <QSettings>
 #include <QSlider>
 #include <QToolButton>
 #include <QWindow>
@@ -263,6 +264,7 @@ TEST_F(DialerScreen, PrefixIsTickedAndCleared) {
 TEST_F(DialerScreen, WholeCallByKeys) {
     OpenAndCall();
     QWidget* dialer = screens.Find(dialerScreen);
+    ASSERT_TRUE(QTest::qWaitFor([dialer] { return QApplication::activeWindow() == dialer; }));
     QTest::keyClick(dialer, Qt::Key_D, Qt::AltModifier);
     EXPECT_TRUE(Shows(pickUp));
     QTest::keyClick(dialer, Qt::Key_C, Qt::AltModifier);
@@ -346,6 +348,39 @@ TEST_F(DialerScreen, EntryIsSavedWithItsButton) {
     EXPECT_EQ(On<EntryField>(u"txtDialer(1)"_s)->text(), QString());
 }
 
+TEST_F(DialerScreen, FocusGoesToTheButtonOfTheEntryWhenItIsSavedCancelledOrLoaded) {
+    OpenAndCall();
+    const QString ends[] = {u"cmdSpeedDialer(0)"_s, u"cmdSpeedDialer(1)"_s, u"cmdSpeedDialer(4)"_s};
+    for (int slot = 5; const QString& end : ends) {
+        const QString button = u"cmdDialer(%1)"_s.arg(slot++);
+        ClickOn(button);
+        EnterIn(0, u"Ann"_s);
+        ClickOn(end);
+        EXPECT_EQ(FocusedOn(), button) << end.toStdString();
+    }
+    ClickOn(u"cmdDialer(9)"_s);
+    Press(On(u"txtDialer(0)"_s), Qt::Key_Escape);
+    EXPECT_EQ(FocusedOn(), u"cmdDialer(9)"_s);
+    ClickOn(u"cmdDialer(8)"_s);
+    EnterIn(1, u"1"_s);
+    Press(On(u"txtDialer(1)"_s), Qt::Key_Return);
+    EXPECT_EQ(FocusedOn(), u"cmdDialer(8)"_s);
+    EXPECT_EQ(modem.Heard(), QByteArray());
+}
+
+TEST_F(DialerScreen, FocusGoesToTheButtonOfTheEntryWhenItsDeletionIsRefusedAndStaysWhenItIsDone) {
+    OpenWithEntries();
+    for (const auto& [answer, focused] : {std::pair(Answer::No, u"cmdDialer(1)"_s),
+                                          std::pair(Answer::Yes, u"cmdSpeedDialer(2)"_s)}) {
+        ClickOn(u"cmdDialer(1)"_s);
+        user.ExpectQuestion(u"This will delete SpeedDial entry  Ben & Co\nAre you Sure"_s,
+                            u"Delete Speed Dial"_s, answer);
+        On(u"cmdSpeedDialer(2)"_s)->setFocus();
+        Press(On(u"cmdSpeedDialer(2)"_s), Qt::Key_Space);
+        EXPECT_EQ(FocusedOn(), focused);
+    }
+}
+
 TEST_F(DialerScreen, CancelledEntryIsBlankTheNextTime) {
     OpenAndCall();
     ClickOn(u"cmdDialer(0)"_s);
@@ -400,6 +435,53 @@ TEST_F(DialerScreen, DeleteIsClosedByANo) {
     ClickOn(u"cmdSpeedDialer(2)"_s);
     EXPECT_FALSE(IsEnabled(u"cmdSpeedDialer(2)"_s));
     EXPECT_EQ(Captions().size(), 4);
+}
+
+TEST_F(DialerScreen, FieldsLeftOpenBelongToTheEntryChosenNext) {
+    OpenWithEntries();
+    ClickOn(u"cmdDialer(7)"_s);
+    ClickOn(u"cmdDialer(0)"_s);
+    EXPECT_TRUE(On(u"fraSpeedDial"_s)->isVisible());
+    EnterIn(0, u"Anna"_s);
+    EnterIn(1, u"11"_s);
+    ClickOn(u"cmdSpeedDialer(0)"_s);
+    EXPECT_EQ(Captions(), (QStringList{u"Anna"_s, u"Ben && Co"_s, u"Cyd"_s, u"Dan"_s}));
+    EXPECT_EQ(folder.Read(speedFile), "Anna\r\n11\r\nBen & Co\r\n2\r\nCyd\r\n3\r\nDan\r\n4\r\n");
+}
+
+TEST_F(DialerScreen, AnotherEntryCanBeChosenWhileTheModemDials) {
+    modem.SetAnswers(PlayedModem::Silence);
+    OpenWithEntries();
+    ClickOn(u"cmdNewDial"_s);
+    ClickOn(u"cmdDialer(3)"_s);
+    EXPECT_EQ(LabelText(u"lblNumber"_s), u"4"_s);
+    EXPECT_EQ(LabelText(u"lblStatus"_s), u"Dialing..... 217-555-0199"_s);
+    EXPECT_FALSE(IsEnabled(u"cmdNewDial"_s));
+    EXPECT_TRUE(HasHeard("ATDT217-555-0199;\r"));
+}
+
+TEST_F(DialerScreen, IncomingCallShowsNowhere) {
+    OpenAndCall();
+    const QStringList before = TextsIn(screens.Find(dialerScreen));
+    modem.Say("\r\nRING\r\n\r\nNMBR = 2175550100\r\n\r\nOK\r\n");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return port.InBufferCount() > 30; }));
+    QTest::qWait(200);
+    EXPECT_EQ(TextsIn(screens.Find(dialerScreen)), before);
+    EXPECT_TRUE(IsEnabled(u"cmdNewDial"_s));
+    EXPECT_FALSE(IsEnabled(u"cmdCancel"_s));
+    EXPECT_EQ(modem.Heard(), QByteArray());
+}
+
+TEST_F(DialerScreen, WindowLayoutIsKeptUnderTheNameOfTheDispatcher) {
+    OpenThree();
+    QSettings layouts(QSettings::IniFormat, QSettings::UserScope, u"tessel-delivery"_s,
+                      u"window-layout"_s);
+    layouts.clear();
+    layouts.sync();
+    Call();
+    ClickOn(u"cmdHangup"_s);
+    layouts.sync();
+    EXPECT_EQ(layouts.allKeys(), QStringList{u"TesselDispatcher"_s});
 }
 
 TEST_F(DialerScreen, AnswerThatComesWhileAnEntryIsTypedLeavesWhatIsTyped) {
