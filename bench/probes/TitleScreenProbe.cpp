@@ -1,5 +1,7 @@
 // The program as main.cpp starts it, on the current folder. It ends when the title screen is
 // painted, or with the argument "loaded" when the start-up sequence has run to its end as well.
+// What is behind the argument "ports" are the devices of its serial ports, in place of the
+// machine's.
 
 #include "Probe.h"
 #include "platform/DesktopBrowser.h"
@@ -26,13 +28,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The first one is that of port 1; the ports behind the last one have none.
+DesktopSerialPort::Devices DevicesOf(const QStringList& arguments) {
+    const qsizetype ports = arguments.indexOf("ports"_L1);
+    if (ports < 0)
+        return SerialDevice;
+    return [devices = arguments.mid(ports + 1)](qint16 number) {
+        return devices.value(number - SerialPort::firstPort);
+    };
+}
+
 /// The same parts as in main.cpp.
 struct Run {
     SystemClock clock;
     DesktopOperator user;
     DesktopBrowser browser;
     DesktopPictures pictures;
-    DesktopSerialPort serialPort;
+    DesktopSerialPort serialPort{DevicesOf(QApplication::arguments())};
     PagePrinter printer{[](const QString&) {}};
     std::unique_ptr<FolderLock> lock;
     std::unique_ptr<Office> office;

@@ -26,16 +26,13 @@ std::string MilliSeconds(double seconds) {
     return WithDecimals(seconds * 1000, 2, " ms");
 }
 
-} // namespace
+struct Medians {
+    double measured;
+    double floor;
+    double Ratio() const { return measured / floor; }
+};
 
-double SecondsOf(const std::function<void()>& work) {
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-void CompareWithFloor(benchmark::State& state, const TimeMeasure& measure, const TimedRun& measured,
-                      const TimedRun& floor) {
+Medians RunByTurns(benchmark::State& state, const TimedRun& measured, const TimedRun& floor) {
     // The first run of each finds the caches cold and is not counted.
     floor();
     measured();
@@ -52,13 +49,36 @@ void CompareWithFloor(benchmark::State& state, const TimeMeasure& measure, const
             measuredTimes.push_back(measured());
         state.SetIterationTime(measuredTimes.back());
     }
-    const double measuredTime = MedianOf(measuredTimes);
-    const double floorTime = MedianOf(floorTimes);
-    const double ratio = measuredTime / floorTime;
-    state.counters["ratio"] = ratio;
-    AddToSummary({measure.what, MilliSeconds(measuredTime), MilliSeconds(floorTime),
-                  WithDecimals(ratio, 2, " times"),
-                  "at most " + WithDecimals(measure.target, 2, " times"), ratio <= measure.target});
+    const Medians medians{MedianOf(measuredTimes), MedianOf(floorTimes)};
+    state.counters["ratio"] = medians.Ratio();
+    return medians;
+}
+
+} // namespace
+
+double SecondsOf(const std::function<void()>& work) {
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+void CompareWithFloor(benchmark::State& state, const TimeMeasure& measure, const TimedRun& measured,
+                      const TimedRun& floor) {
+    const Medians medians = RunByTurns(state, measured, floor);
+    AddToSummary({measure.what, MilliSeconds(medians.measured), MilliSeconds(medians.floor),
+                  WithDecimals(medians.Ratio(), 2, " times"),
+                  "at most " + WithDecimals(measure.target, 2, " times"),
+                  medians.Ratio() <= measure.target});
+}
+
+void CompareWaitWithFloor(benchmark::State& state, const WaitMeasure& measure,
+                          const TimedRun& measured, const TimedRun& floor) {
+    const Medians medians = RunByTurns(state, measured, floor);
+    const double above = medians.measured - medians.floor;
+    AddToSummary({measure.what, MilliSeconds(medians.measured), MilliSeconds(medians.floor),
+                  WithDecimals(medians.Ratio(), 2, " times, ") + MilliSeconds(above) + " longer",
+                  "at most " + MilliSeconds(measure.secondsAbove) + " longer",
+                  above <= measure.secondsAbove});
 }
 
 void AddToSummary(const SummaryLine& line) {

@@ -13,6 +13,12 @@ struct TimeMeasure {
     double target;
 };
 
+/// What is measured, and how many seconds longer than its floor it may take.
+struct WaitMeasure {
+    const char* what;
+    double secondsAbove;
+};
+
 /// One run of the measured work or of its floor; returns the seconds that count.
 using TimedRun = std::function<double()>;
 
@@ -23,6 +29,8 @@ double SecondsOf(const std::function<void()>& work);
 /// the machine does hits both. The medians become a line of the summary.
 void CompareWithFloor(benchmark::State& state, const TimeMeasure& measure, const TimedRun& measured,
                       const TimedRun& floor);
+void CompareWaitWithFloor(benchmark::State& state, const WaitMeasure& measure,
+                          const TimedRun& measured, const TimedRun& floor);
 
 /// One line of the summary at the end of the run.
 struct SummaryLine {
