@@ -72,8 +72,9 @@ void DesktopSerialPort::Close() {
 void DesktopSerialPort::LetOutputLeave() {
     const auto left =
         std::min<std::chrono::nanoseconds>(outputLeaves.remainingTimeAsDuration(), longestLeave);
-    QThread::usleep(static_cast<unsigned long>(
-        std::chrono::duration_cast<std::chrono::microseconds>(left).count()));
+    if (left > 0s)
+        QThread::usleep(static_cast<unsigned long>(
+            std::chrono::duration_cast<std::chrono::microseconds>(left).count()));
     if (port.bytesToWrite() > 0 || HoldsOutput(port))
         port.clear(QSerialPort::Output);
 }

@@ -3,10 +3,11 @@
 #include "platform/RuntimeFailure.h"
 #include "store/TextLines.h"
 
+#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QTimer>
 
-#include <chrono>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -17,9 +18,19 @@ const QString phoneFile = u"/Phone.txt"_s;
 constexpr qint16 portWithoutModem = 1;
 /// So many bytes waiting count as an answer.
 constexpr qsizetype leastAnswer = 2;
-/// A modem needs a few milliseconds to hear the command and to say it back, and an adapter on USB
-/// keeps bytes for up to 16. Sixteen times this is what silent ports take of the start.
-constexpr std::chrono::milliseconds timeToAnswer = 25ms;
+/// What silent ports may take of the start, all together.
+constexpr std::chrono::milliseconds timeToSearch = 400ms;
+/// A modem needs a few milliseconds to hear the command and to say it back. An adapter on USB may
+/// keep the bytes for another 16.
+constexpr std::chrono::milliseconds shortestPass = 15ms;
+constexpr std::chrono::milliseconds longestPass = 50ms;
+
+/// A port's share of what is left for the search. Most machines have few ports, and those that
+/// don't open leave their time to the others.
+std::chrono::milliseconds TimeToAnswer(qint16 port, const QDeadlineTimer& endOfSearch) {
+    const qint64 left = endOfSearch.remainingTime() / (SerialPort::lastPort - port + 1);
+    return std::clamp(std::chrono::milliseconds(left), shortestPass, longestPass);
+}
 
 } // namespace
 
@@ -70,19 +81,20 @@ void Modem::ShowPort() {
 /// Leaves the port of the modem open and all others closed. A port that is open already is not
 /// asked.
 bool Modem::FindModem() {
+    const QDeadlineTimer endOfSearch(timeToSearch, Qt::PreciseTimer);
     for (qint16 number = SerialPort::firstPort; number <= SerialPort::lastPort; ++number) {
         PassOver([this, number] { port.SetCommPort(number); });
-        if (!port.PortOpen() && AnswersOnPort())
+        if (!port.PortOpen() && AnswersOnPort(TimeToAnswer(number, endOfSearch)))
             return true;
     }
     return false;
 }
 
-bool Modem::AnswersOnPort() {
+bool Modem::AnswersOnPort(std::chrono::milliseconds timeToAnswer) {
     if (!PassOver([this] { port.Open(); }))
         return false;
     Send("AT\r");
-    LetEventsRun();
+    LetEventsRun(timeToAnswer);
     if (port.InBufferCount() >= leastAnswer)
         return true;
     PassOver([this] { port.Close(); });
@@ -91,7 +103,7 @@ bool Modem::AnswersOnPort() {
 
 /// One pass of the event loop, which ends with the answer. A modem that has not answered by its end
 /// is not found.
-void Modem::LetEventsRun() {
+void Modem::LetEventsRun(std::chrono::milliseconds timeToAnswer) {
     QEventLoop pass;
     QTimer::singleShot(timeToAnswer, Qt::PreciseTimer, &pass, &QEventLoop::quit);
     QObject::connect(&port, &SerialPort::Received, &pass, [this, &pass] {

@@ -1,0 +1,48 @@
+// A modem on a serial port, for a test that plays the program in its window. It runs until it is
+// ended: played-modem PORT HEARD SILENCE. PORT is the link by which the program finds it, HEARD
+// takes every byte that it hears. While there is a file of the name SILENCE, it answers to nothing.
+
+#include "support/PlayedModem.h"
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// As long as a number takes to dial, or less.
+constexpr auto timeToDial = 700ms;
+
+void KeepWriting(const PlayedModem& modem, const char* heardFile) {
+    std::ofstream file(heardFile, std::ios::binary);
+    for (qsizetype written = 0;; std::this_thread::sleep_for(20ms)) {
+        const QByteArray heard = modem.Heard();
+        file.write(heard.constData() + written, heard.size() - written).flush();
+        written = heard.size();
+    }
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments) {
+    if (argumentCount != 4) {
+        std::fprintf(stderr, "played-modem PORT HEARD SILENCE\n");
+        return EXIT_FAILURE;
+    }
+    const std::filesystem::path silence = arguments[3];
+    const PlayedModem modem([&silence](const QByteArray& command) {
+        std::vector<PlayedModem::Piece> answer = PlayedModem::Ok(command);
+        if (std::filesystem::exists(silence))
+            answer.clear();
+        else if (command.startsWith("ATD"))
+            answer.front().pause = timeToDial;
+        return answer;
+    });
+    std::filesystem::create_symlink(modem.Device().toStdString(), arguments[1]);
+    KeepWriting(modem, arguments[2]);
+}
