@@ -205,6 +205,12 @@ TEST_F(DialerTest, OkWithinNoiseCounts) {
     EXPECT_TRUE(IsDialed());
 }
 
+TEST_F(DialerTest, CommandSaidBackCountsWhenTheNumberHasOkInIt) {
+    dialer.SetRecipient(u"Corner Dairy"_s, u"1-800-BOOKS"_s);
+    DialWith([](const QByteArray& command) { return Pieces{{0ms, command + '\r'}}; });
+    EXPECT_TRUE(IsDialed());
+}
+
 TEST_F(DialerTest, WhatCameInBeforeTheDialIsForgotten) {
     dialer.Load();
     modem.Say("\r\nOK\r\n");

@@ -5,7 +5,9 @@
 #include "support/PlayedPorts.h"
 
 #include <QTest>
+#include <QTimer>
 
+#include <array>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -187,6 +189,40 @@ TEST_F(ModemTest, ModemBehindSilentPortsIsFound) {
     office.modem.SetUpModem();
     ExpectFound(16);
     EXPECT_TRUE(HasHeard(silent, "AT\r"));
+}
+
+TEST_F(ModemTest, SixteenSilentPortsAreAskedOnceEachAndTheFirstIsLeftOpen) {
+    std::array<PlayedModem, SerialPort::lastPort> silent;
+    for (qint16 number = SerialPort::firstPort; PlayedModem & modem : silent) {
+        modem.SetAnswers(PlayedModem::Silence);
+        devices[number++] = modem.Device();
+    }
+    office.modem.SetUpModem();
+    ExpectFound(1);
+    EXPECT_TRUE(HasHeard(silent.front(), "AT\rAT#CID=1\r"));
+    for (size_t i = 1; i < silent.size(); ++i)
+        EXPECT_TRUE(HasHeard(silent[i], "AT\r")) << i;
+}
+
+TEST_F(ModemTest, ModemOnTheLastPortIsFoundBehindFifteenSilentOnes) {
+    std::array<PlayedModem, SerialPort::lastPort> modems;
+    for (qint16 number = SerialPort::firstPort; PlayedModem & modem : modems) {
+        if (number < SerialPort::lastPort)
+            modem.SetAnswers(PlayedModem::Silence);
+        devices[number++] = modem.Device();
+    }
+    office.modem.SetUpModem();
+    ExpectFound(16);
+    EXPECT_TRUE(HasHeard(modems.back(), "AT\rAT#CID=1\r"));
+}
+
+TEST_F(ModemTest, ModemThatVanishesInTheMiddleOfTheSearchIsPassedOver) {
+    PlayedModem vanishing(PlayedModem::Silence);
+    const PlayedModem modem;
+    devices = {{1, vanishing.Device()}, {2, modem.Device()}};
+    QTimer::singleShot(0, &port, [&vanishing] { vanishing.Vanish(); });
+    office.modem.SetUpModem();
+    ExpectFound(2);
 }
 
 TEST_F(ModemTest, PortOfTheFileIsKeptBesideTheOneThatTheProbeFinds) {
