@@ -519,7 +519,6 @@ ExpectFolder() {
 }
 
 vehiclesScreen='Vehicle Creation Screen'
-customersScreen='Customer Selection       '
 
 expected=''
 menuWindow=''
