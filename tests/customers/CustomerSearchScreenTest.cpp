@@ -238,14 +238,17 @@ TEST_F(CustomerSearchScreen, NobodyFoundLeavesTheScreenBehindTheMenu) {
     EXPECT_EQ(office.deliveryCustomer.AccountNumber, QString()) << "no one is handed over";
 }
 
-TEST_F(CustomerSearchScreen, NobodyFoundForADeliveryLeavesTheMenuAlone) {
+TEST_F(CustomerSearchScreen, NobodyFoundForADeliveryLeavesTheScreenBehindTheDeliveryScreen) {
     OpenSearch(5);
     Type(SearchText(), u"no such name"_s);
     user.ExpectMessage(nobody, nobodyTitle);
     Click(screen, u"cmdStartSearch"_s);
+    EXPECT_TRUE(IsShown(ScreenName::frmDelivery));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(screens.Find(ScreenName::frmDelivery)));
     EXPECT_FALSE(IsShown(ScreenName::frmStartup));
     EXPECT_TRUE(IsShown(screen));
     EXPECT_TRUE(Text(0)->isVisible());
+    EXPECT_EQ(office.deliveryCustomer.AccountNumber, QString()) << "no one is handed over";
 }
 
 TEST_F(CustomerSearchScreen, NobodyFoundWithAnyOtherMenuChoiceStays) {
@@ -298,6 +301,20 @@ TEST_F(CustomerSearchScreen, LocateListsAllCustomersWithAPrintButton) {
     EXPECT_EQ(Cell(2, 0), u"Mr/Mrs Ann Lee"_s);
     EXPECT_EQ(Focused(), u"fgCustomersFound"_s);
     EXPECT_FALSE(Text(0)->isVisible());
+}
+
+TEST_F(CustomerSearchScreen, NameIsTheColumnThatTakesWhatIsLeft) {
+    OpenList();
+    QHeaderView* header = FoundGrid()->horizontalHeader();
+    EXPECT_EQ(header->sectionResizeMode(0), QHeaderView::Stretch);
+    EXPECT_EQ(header->length(), FoundGrid()->viewport()->width());
+    // A width that the operator has given to the record number is not the grid's to fit.
+    const int wide = header->sectionSize(2) + 40;
+    QTest::mousePress(Control(u"cmdRetry"_s), Qt::LeftButton);
+    header->resizeSection(2, wide);
+    QTest::mouseRelease(Control(u"cmdRetry"_s), Qt::LeftButton, Qt::NoModifier, {-5, -5});
+    FoundGrid()->FitColumns();
+    EXPECT_EQ(header->sectionSize(2), wide);
 }
 
 TEST_F(CustomerSearchScreen, MenuEntryListsAllCustomers) {
