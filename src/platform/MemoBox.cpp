@@ -10,7 +10,11 @@ MemoBox::MemoBox(QWidget* parent) : QPlainTextEdit(parent) {
 }
 
 QString MemoBox::Text() const {
-    return document()->toRawText().replace(QChar::ParagraphSeparator, u'\n');
+    // Shift with Enter parts lines as well, and a pasted text may bring its own separators.
+    return document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, u'\n')
+        .replace(QChar::LineSeparator, u'\n');
 }
 
 void MemoBox::Show(const QString& text) {

@@ -110,6 +110,23 @@ TEST_F(AuxiliaryScreen, TextsAreTypedWithLineBreaksAndSavedWhenTheWindowIsClosed
     EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 1)), "\r\n");
 }
 
+TEST_F(AuxiliaryScreen, EveryKindOfLineBreakIsSavedAsOne) {
+    OpenWindow();
+    TypeInto(Aux(0), u"one"_s);
+    QTest::keyClick(Aux(0), Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClicks(Aux(0), u"two"_s);
+    QApplication::clipboard()->setText(u"\u2028three\u2029four"_s);
+    QTest::keyClick(Aux(0), Qt::Key_V, Qt::ControlModifier);
+    DoubleClick(Aux(1));
+    QTest::keyClicks(Big(), u"big"_s);
+    QTest::keyClick(Big(), Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClicks(Big(), u"text"_s);
+    ClickSave(4);
+    ClickSave(2);
+    EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 0)), "one\r\ntwo\r\nthree\r\nfour\r\n");
+    EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 1)), "big\r\ntext\r\n");
+}
+
 TEST_F(AuxiliaryScreen, CharactersOfEveryKindAreSavedAsTheFileCanHoldThem) {
     OpenWindow();
     QApplication::clipboard()->setText(u"Süd 5\u00a0€\r\n倉\nend"_s);
@@ -190,6 +207,13 @@ TEST_F(AuxiliaryScreen, HeadingIsNamedClearedByADoubleClickAndSavedByItsButton) 
     Open(2);
     EXPECT_EQ(HeadingOf(0)->text(), u"Gate code"_s);
     EXPECT_EQ(HeadingOf(1)->text(), QString());
+}
+
+TEST_F(AuxiliaryScreen, HeadingStaysAtAClick) {
+    OpenWindow();
+    QTest::mouseClick(HeadingOf(1), Qt::LeftButton);
+    EXPECT_EQ(HeadingOf(1)->text(), u"Heading #2"_s);
+    EXPECT_EQ(Focused(), u"txtHeading(1)"_s);
 }
 
 TEST_F(AuxiliaryScreen, ClearWordsDoNothing) {

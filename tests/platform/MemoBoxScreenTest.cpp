@@ -38,6 +38,16 @@ TEST_F(MemoBoxTest, LinesArePartedByALineFeed) {
     EXPECT_EQ(box.Text(), u"one\ntwo"_s);
 }
 
+TEST_F(MemoBoxTest, ShiftWithEnterAndLineSeparatorsPartLinesLikeEnter) {
+    box.setFocus();
+    QTest::keyClicks(&box, u"one"_s);
+    QTest::keyClick(&box, Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClicks(&box, u"two"_s);
+    EXPECT_EQ(box.Text(), u"one\ntwo"_s);
+    box.insertPlainText(u"\u2028three\u2029four"_s);
+    EXPECT_EQ(box.Text(), u"one\ntwo\nthree\nfour"_s);
+}
+
 TEST_F(MemoBoxTest, TextShownIsTheTextGivenBack) {
     for (const QString& text : {QString(), u"\n"_s, u"one\n\ntwo\n"_s, u"5\u00a0€\ttab  "_s}) {
         box.Show(text);
