@@ -28,9 +28,11 @@ std::array<char, 256> MakeCapitals() {
     return capitals;
 }
 
-char Capital(char character) {
-    static const std::array<char, 256> capitals = MakeCapitals();
-    return capitals[quint8(character)];
+/// Writes the capitals of the bytes to `capitals`; returns its end.
+char* WriteCapitals(QByteArrayView bytes, char* capitals) {
+    static const std::array<char, 256> capitalOf = MakeCapitals();
+    return std::transform(bytes.begin(), bytes.end(), capitals,
+                          [&](char character) { return capitalOf[quint8(character)]; });
 }
 
 QString InCapitals(const QString& text) {
@@ -38,7 +40,7 @@ QString InCapitals(const QString& text) {
     if (!IsInCodePage(text))
         return text;
     QByteArray bytes = ToCodePage(text);
-    std::transform(bytes.begin(), bytes.end(), bytes.begin(), Capital);
+    WriteCapitals(bytes, bytes.data());
     return FromCodePage(bytes);
 }
 
@@ -71,8 +73,8 @@ QByteArrayView FieldOf(const CustomerRecord& customer, SearchField field) {
 /// Whether a text in capitals occurs anywhere in the field.
 bool Occurs(const QByteArray& wanted, QByteArrayView field) {
     std::array<char, sizeof(CustomerRecord)> capitals;
-    const auto end = std::transform(field.begin(), field.end(), capitals.begin(), Capital);
-    return QByteArrayView(capitals.data(), end - capitals.begin()).contains(wanted);
+    const char* const end = WriteCapitals(field, capitals.data());
+    return QByteArrayView(capitals.data(), end).contains(wanted);
 }
 
 QString DisplayName(const CustomerRecord& customer) {
