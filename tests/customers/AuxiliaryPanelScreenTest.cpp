@@ -252,6 +252,57 @@ TEST_F(AuxiliaryScreen, AccountNumberThatLeadsOutOfItsFolderStopsTheProgramAtThe
     EXPECT_EQ(folder.Contents(), before);
 }
 
+TEST_F(AuxiliaryScreen, AccountNumbersOfTheFileThatLeadElsewhereStopTheProgramAtTheSave) {
+    folder.Write(u"AuxFiles/x/AuxFile0/Data.txt"_s, "of another account\r\n");
+    const QList<QByteArray> numbers = {".", "../x", "x/AuxFile0/..", "..\\x"};
+    for (const QByteArray& number : numbers) {
+        screens.Destroy(screen);
+        WriteCustomers({SampleCustomer{.account = number}});
+        Open(2);
+        Item(u"mnuAux"_s)->trigger();
+        EXPECT_EQ(Aux(0)->Text(), QString()) << number.toStdString();
+        TypeInto(Aux(0), u"text"_s);
+        const auto before = folder.Contents();
+        ClickSave(7);
+        ASSERT_EQ(Failures().size(), 1U) << number.toStdString();
+        EXPECT_EQ(Failures()[0].Kind(), FailureKind::BadFileName);
+        Failures().clear();
+        EXPECT_EQ(folder.Contents(), before);
+    }
+}
+
+TEST_F(AuxiliaryScreen, FilesWithCommasQuotesAndWithoutALineEndAreShownValueByValue) {
+    folder.Write(BoxFile(u"4471"_s, 0), "Gate, code 17");
+    folder.Write(BoxFile(u"4471"_s, 1), "\"Mind, the dog\",\"\"\r\n");
+    folder.Write(BoxFile(u"4471"_s, 2), "\"open");
+    folder.Write(BoxFile(u"4471"_s, 3), ",,\r\n");
+    folder.Write(BoxFile(u"4471"_s, 4), "");
+    OpenWindow();
+    EXPECT_EQ(Aux(0)->Text(), u"Gate\ncode 17\n"_s);
+    EXPECT_EQ(Aux(1)->Text(), u"Mind, the dog\n\n"_s);
+    EXPECT_EQ(Aux(2)->Text(), u"open\n"_s);
+    EXPECT_EQ(Aux(3)->Text(), u"\n\n\n"_s);
+    EXPECT_EQ(Aux(4)->Text(), QString());
+    EXPECT_EQ(Aux(5)->Text(), QString());
+    ClickSave(2);
+    EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 0)), "Gate\r\ncode 17\r\n\r\n");
+    EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 1)), "Mind, the dog\r\n\r\n\r\n");
+    EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 2)), "open\r\n\r\n");
+    EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 5)), "\r\n");
+}
+
+TEST_F(AuxiliaryScreen, MegabyteWithoutALineEndIsShownAndSaved) {
+    const QByteArray line(1'000'000, 'x');
+    folder.Write(BoxFile(u"4471"_s, 3), line);
+    OpenWindow();
+    EXPECT_EQ(Aux(3)->Text(), QString::fromLatin1(line) + u'\n');
+    DoubleClick(Aux(3));
+    EXPECT_EQ(Big()->Text().size(), 1'000'001);
+    ClickSave(4);
+    ClickSave(2);
+    EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 3)), line + "\r\n\r\n");
+}
+
 TEST_F(AuxiliaryScreen, MegabyteOfTextIsShownAndSaved) {
     QByteArray lines;
     for (int i = 0; i < 20'000; ++i)

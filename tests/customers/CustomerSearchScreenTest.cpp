@@ -215,6 +215,28 @@ TEST_F(CustomerSearchScreen, EmptyTextIsRefused) {
     EXPECT_EQ(Focused(), u"txtSearchfor"_s);
 }
 
+TEST_F(CustomerSearchScreen, WildcardsAndQuotesThatAreTypedAreSearchedAsTheyStand) {
+    WriteCustomers({SampleCustomer{}, SampleCustomer{.account = "2", .businessName = "A*B \"C\"?"},
+                    SampleCustomer{.account = "3", .businessName = "It's 100% [new] \\d+"}});
+    Open(7);
+    const std::pair<QString, QString> texts[] = {
+        {u"*"_s, u"2"_s},  {u"?"_s, u"2"_s},     {u"\"c\""_s, u"2"_s}, {u"'"_s, u"3"_s},
+        {u"0%"_s, u"3"_s}, {u"[new]"_s, u"3"_s}, {u"\\d+"_s, u"3"_s}};
+    for (const auto& [text, account] : texts) {
+        Click(screen, u"Command1(0)"_s);
+        Type(SearchText(), text);
+        Press(SearchText(), Qt::Key_Return);
+        EXPECT_EQ(Shown(0), account) << text.toStdString();
+    }
+    for (const QString& text : {u"A*C"_s, u"A?B"_s, u"[a-z]"_s, u"%"_s + u"%"_s, u"' OR '"_s}) {
+        Click(screen, u"Command1(0)"_s);
+        Type(SearchText(), text);
+        user.ExpectMessage(nobody, nobodyTitle);
+        Press(SearchText(), Qt::Key_Return);
+        user.ExpectNothingLeft();
+    }
+}
+
 TEST_F(CustomerSearchScreen, PastedTextOfTenThousandCharactersAndLineBreaksFindsNobody) {
     OpenSearch(7);
     QApplication::clipboard()->setText(QString(10'000, u'*') + u"\n\"'"_s);

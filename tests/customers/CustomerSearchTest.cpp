@@ -153,6 +153,27 @@ TEST_F(CustomerSearchTest, CharacterThatNoRecordCanHoldIsNotFoundAsAQuestionMark
     EXPECT_EQ(customers.CurrentRecord, 1);
 }
 
+TEST_F(CustomerSearchTest, HundredsOfCustomersAreFoundWithTheirOwnTexts) {
+    QList<SampleCustomer> records;
+    for (int number = 1; number <= 300; ++number)
+        records += number % 2 == 0
+                       ? SampleCustomer{.businessName = "Shop " + QByteArray::number(number),
+                                        .phone = QByteArray::number(number)}
+                       : Person("Lee " + QByteArray::number(number), "Ann", "1");
+    LoadWith(records);
+    QStringList all;
+    for (int number = 1; number <= 300; ++number)
+        all += QString::number(number);
+    ExpectFound(u"SPRING"_s, all, SearchField::City);
+    for (const int number : {1, 127, 129, 299})
+        EXPECT_EQ(Row(number), (QStringList{u"Ann Lee %1"_s.arg(number), u"217-555-0199"_s,
+                                            QString::number(number)}));
+    for (const int number : {2, 128, 256, 300})
+        EXPECT_EQ(Row(number), (QStringList{u"Shop %1"_s.arg(number), QString::number(number),
+                                            QString::number(number)}));
+    ExpectFound(u"SHOP 30"_s, {u"30"_s, u"300"_s});
+}
+
 TEST_F(CustomerSearchTest, WildcardsAndQuotesAreCharactersLikeOthers) {
     LoadWith({SampleCustomer{}, SampleCustomer{.businessName = "*?%\"'[a-z]\\.^$ Ltd"}});
     for (const QString& text : {u"*"_s, u"?"_s, u"%"_s, u"\""_s, u"'"_s, u"[A-Z]"_s, u"\\"_s,

@@ -1,6 +1,8 @@
 #include "platform/MemoBox.h"
 #include "support/TextOutput.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QTest>
 #include <QTextCursor>
@@ -62,6 +64,28 @@ TEST_F(MemoBoxTest, ShowingTheSameTextLeavesTheCaret) {
     EXPECT_EQ(box.textCursor().position(), 7);
     box.Show(u"one"_s);
     EXPECT_EQ(box.textCursor().position(), 0);
+}
+
+TEST_F(MemoBoxTest, MegabyteWithoutABlankIsBrokenAnywhereAndWordsBetweenThem) {
+    const QString endless(1'000'000, u'x');
+    box.Show(endless);
+    EXPECT_EQ(box.wordWrapMode(), QTextOption::WrapAnywhere);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(box.Text(), endless);
+    box.Show(u"words "_s.repeated(10'000));
+    EXPECT_EQ(box.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+    EXPECT_EQ(box.Text().size(), 60'000);
+}
+
+TEST_F(MemoBoxTest, PastedMegabyteWithoutABlankIsTaken) {
+    QApplication::clipboard()->setText(QString(1'000'000, u'x'));
+    box.Show(u"before "_s);
+    box.setFocus();
+    box.moveCursor(QTextCursor::End);
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text().size(), 1'000'007);
+    QTest::keyClick(&box, Qt::Key_Backspace);
+    EXPECT_EQ(box.Text().size(), 1'000'006);
 }
 
 TEST_F(MemoBoxTest, TabGoesOnToTheNextControl) {

@@ -90,6 +90,11 @@ protected:
         Type(Date(name), text);
         Press(Date(name), last);
     }
+    void PasteOver(const QString& date) {
+        Date(date)->setFocus();
+        Date(date)->selectAll();
+        QTest::keyClick(Date(date), Qt::Key_V, Qt::ControlModifier);
+    }
     void ClickEntry(const QString& name, int row) {
         QListView* list = List(name);
         list->scrollTo(list->model()->index(row, 0));
@@ -257,13 +262,27 @@ TEST_F(WeeklyScreen, DateTypedBeforeTodayWithPromptsAndAlarmsOffIsCorrectedWitho
 TEST_F(WeeklyScreen, DatePastedBeforeTodayIsCorrectedAsWell) {
     Open();
     QApplication::clipboard()->setText(u"12/31/2025"_s);
-    Date(u"DTEnding"_s)->setFocus();
-    Date(u"DTEnding"_s)->selectAll();
-    QTest::keyClick(Date(u"DTEnding"_s), Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(Date(u"DTEnding"_s)->text(), u"12/31/2025"_s);
+    for (const QString& name : {u"DTStarting"_s, u"DTEnding"_s}) {
+        PasteOver(name);
+        EXPECT_EQ(Date(name)->text(), u"12/31/2025"_s);
+        ExpectInvalidDate();
+        Press(Date(name), Qt::Key_Return);
+        EXPECT_EQ(Date(name)->text(), u"3/9/2026"_s);
+        EXPECT_EQ(Focused(), Date(name));
+    }
+}
+
+TEST_F(WeeklyScreen, DateOfAnotherRegionBeforeTodayIsCorrectedAsWell) {
+    UseLocale("de_DE.UTF-8");
+    Open();
+    ExpectInvalidDate();
+    TypeDate(u"DTStarting"_s, u"08.03.2026"_s);
+    EXPECT_EQ(Date(u"DTStarting"_s)->text(), u"09.03.2026"_s);
+    QApplication::clipboard()->setText(u"31.12.2025"_s);
+    PasteOver(u"DTEnding"_s);
     ExpectInvalidDate();
     Press(Date(u"DTEnding"_s), Qt::Key_Return);
-    EXPECT_EQ(Date(u"DTEnding"_s)->text(), u"3/9/2026"_s);
+    EXPECT_EQ(Date(u"DTEnding"_s)->text(), u"09.03.2026"_s);
 }
 
 TEST_F(WeeklyScreen, TextThatIsNoDateIsTakenBackWithABeepUnlessAlarmsAreOff) {
@@ -271,9 +290,7 @@ TEST_F(WeeklyScreen, TextThatIsNoDateIsTakenBackWithABeepUnlessAlarmsAreOff) {
     int beeps = 0;
     for (const QString& text : {u"soon"_s, u"2/30/2026"_s, u"3/9/26"_s, u"\u00e9\u4e00"_s}) {
         QApplication::clipboard()->setText(text);
-        Date(u"DTStarting"_s)->setFocus();
-        Date(u"DTStarting"_s)->selectAll();
-        QTest::keyClick(Date(u"DTStarting"_s), Qt::Key_V, Qt::ControlModifier);
+        PasteOver(u"DTStarting"_s);
         Press(Date(u"DTStarting"_s), Qt::Key_Return);
         EXPECT_EQ(Date(u"DTStarting"_s)->text(), u"3/9/2026"_s);
         EXPECT_EQ(user.Beeps, ++beeps);
@@ -354,6 +371,27 @@ TEST_F(WeeklyScreen, ClickOnAVehicleClearsTheGridAndTheNextLoadFilters) {
     EXPECT_EQ(Numbers(), QStringList{u"1"_s});
     ClickEntry(u"lstVehicles"_s, 1);
     EXPECT_EQ(Numbers(), QStringList{QString()});
+}
+
+TEST_F(WeeklyScreen, ColumnsFitTheDeliveriesAfterAClickOnAVehicle) {
+    WriteSlip(folder, {.number = u"9"_s, .customer = u"Hoskins and Daughters Masonry"_s});
+    OpenLoaded();
+    const int fitting = grid->columnWidth(int(WeeklyColumn::AccountName));
+    FilterBox()->click();
+    ClickEntry(u"lstVehicles"_s, 0);
+    EXPECT_LT(grid->columnWidth(int(WeeklyColumn::AccountName)), fitting);
+    Click(weekly, u"cmdweekly(3)"_s);
+    EXPECT_EQ(grid->columnWidth(int(WeeklyColumn::AccountName)), fitting);
+}
+
+TEST_F(WeeklyScreen, EmptyGridShowsItsHintAloneThoughARowIsCurrent) {
+    OpenLoaded();
+    Click(weekly, u"cmdweekly(1)"_s);
+    ASSERT_EQ(office.weekly.fgWeekly.CurrentRow(), 1);
+    const QRect row = grid->visualRect(grid->model()->index(0, 0));
+    const QImage shown = grid->viewport()->grab(row).toImage();
+    const QColor ground = shown.pixelColor(shown.width() / 2, shown.height() / 2);
+    EXPECT_EQ(ground, grid->palette().color(QPalette::Base));
 }
 
 TEST_F(WeeklyScreen, UntickingShowsAllVehiclesAgain) {
@@ -498,6 +536,10 @@ TEST_F(WeeklyScreen, TimeAndVehicleThatAreNotInTheListsAreNotChosenThere) {
 TEST_F(WeeklyScreen, PanelsDateBeforeTodayBecomesTodayInSilence) {
     OpenPanel();
     TypeDate(u"dtReschedule"_s, u"3/1/2026"_s);
+    EXPECT_EQ(Date(u"dtReschedule"_s)->text(), u"3/9/2026"_s);
+    QApplication::clipboard()->setText(u"12/31/2025"_s);
+    PasteOver(u"dtReschedule"_s);
+    Press(Date(u"dtReschedule"_s), Qt::Key_Return);
     EXPECT_EQ(Date(u"dtReschedule"_s)->text(), u"3/9/2026"_s);
     EXPECT_EQ(user.Beeps, 0);
     Press(Date(u"dtReschedule"_s), Qt::Key_F4);
