@@ -137,6 +137,29 @@ static void SearchCustomers(benchmark::State& state) {
 }
 BENCHMARK(SearchCustomers)->UseManualTime()->Iterations(21)->Unit(benchmark::kMillisecond);
 
+static void SearchThatFindsAll(benchmark::State& state) {
+    ManyCustomers many;
+    int found = 0;
+    const auto search = [&] {
+        many.Search().FindCustomers(SearchField::BusinessName, u"TRADING"_s, true, found);
+    };
+    search();
+    if (found != customers) {
+        state.SkipWithError("The search does not find all customers.");
+        return;
+    }
+    CompareWithFloor(
+        state, {"Searching 32,767 customers, all found, against reading their records", 2.0},
+        [&] { return SecondsOf(search); },
+        [&] {
+            return SecondsOf([&] {
+                PlainReadRecords(many.Path(), sizeof(CustomerRecord),
+                                 [](const char* bytes) { benchmark::DoNotOptimize(*bytes); });
+            });
+        });
+}
+BENCHMARK(SearchThatFindsAll)->UseManualTime()->Iterations(21)->Unit(benchmark::kMillisecond);
+
 namespace {
 
 template <size_t Width>

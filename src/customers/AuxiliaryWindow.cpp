@@ -64,7 +64,8 @@ void AuxiliaryWindow::cmdSaveAux_Click(AuxButton index) {
         break;
     case AuxButton::ShowNextAccount:
         data.SaveAuxData(AccountNumber());
-        // Behind the last one, or before the first is saved, there is none to go to.
+        // Not a test for being the last one alone: before the first customer is saved there are
+        // none, and going on would show a record that no file has, over what is being entered.
         if (customers.CurrentRecord < customers.CustomerCount)
             ShowAccount(customers.CurrentRecord + 1);
         break;

@@ -6,6 +6,8 @@
 
 #include <QStringList>
 
+#include <algorithm>
+
 /// The three parallel customer files, CustomerData.txt, ContractInfo.txt and CycleInfo.txt, and one
 /// record buffer for each. Nothing of a file stays open between two operations.
 class CustomerFiles {
@@ -40,14 +42,16 @@ public:
     /// and blank ones.
     template <typename Visit>
     void VisitAll(qint32 count, Visit&& visit) {
-        const qint16 onFile = Count();
+        const qint32 onFile = std::min(count, qint32(Count()));
         if (onFile > 0)
             OpenCustomerFile(disk);
-        for (qint32 number = 1; number <= count; ++number) {
-            if (number <= onFile)
-                Customer = ReadRecord<CustomerRecord>(disk, disk.DiskFile, number);
-            else
-                BlankCustomer();
+        VisitRecords<CustomerRecord>(disk, disk.DiskFile, onFile,
+                                     [&](qint32 number, const CustomerRecord& record) {
+                                         Customer = record;
+                                         visit(number);
+                                     });
+        for (qint32 number = onFile + 1; number <= count; ++number) {
+            BlankCustomer();
             visit(number);
         }
         disk.CloseAllFiles();

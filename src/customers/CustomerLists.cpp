@@ -1,5 +1,6 @@
 #include "customers/CustomerLists.h"
 
+#include "customers/Capitals.h"
 #include "store/Conversions.h"
 
 #include <algorithm>
@@ -46,7 +47,7 @@ std::vector<size_t> AlphabeticalOrder(size_t count, TextAt&& textAt) {
 }
 
 QString Comparable(const QString& text) {
-    return TrimBlanks(text.toUpper());
+    return TrimBlanks(InCapitals(text));
 }
 
 } // namespace

@@ -25,14 +25,26 @@ bool IsBusiness(const CustomerRecord& customer) {
     return ShownBytes(customer.AcctType) == "Business";
 }
 
-QString FullPersonalName(const QString& title, const QString& first, const QString& middle,
-                         const QString& last) {
+namespace {
+
+void Append(QString& name, QStringView part) {
+    name += part;
+}
+
+void Append(QString& name, QByteArrayView part) {
+    AppendFromCodePage(name, part);
+}
+
+/// The parts have no blanks at their ends.
+template <typename Part>
+QString JoinedName(const Part& title, const Part& first, const Part& middle, const Part& last) {
+    constexpr qsizetype roomForMost = 56;
     QString name;
-    const auto append = [&name](const QString& part, QLatin1StringView behind) {
-        const QString trimmed = TrimBlanks(part);
-        if (trimmed.isEmpty())
+    name.reserve(roomForMost);
+    const auto append = [&name](const Part& part, QLatin1StringView behind) {
+        if (part.isEmpty())
             return;
-        name += trimmed;
+        Append(name, part);
         name += behind;
     };
     append(title, " "_L1);
@@ -42,9 +54,16 @@ QString FullPersonalName(const QString& title, const QString& first, const QStri
     return name;
 }
 
+} // namespace
+
+QString FullPersonalName(const QString& title, const QString& first, const QString& middle,
+                         const QString& last) {
+    return JoinedName(TrimBlanks(title), TrimBlanks(first), TrimBlanks(middle), TrimBlanks(last));
+}
+
 QString FullPersonalName(const CustomerRecord& customer) {
-    return FullPersonalName(ShownText(customer.Title), ShownText(customer.FirstName),
-                            ShownText(customer.MiddleInitial), ShownText(customer.LastName));
+    return JoinedName(ShownBytes(customer.Title), ShownBytes(customer.FirstName),
+                      ShownBytes(customer.MiddleInitial), ShownBytes(customer.LastName));
 }
 
 QString ShortCustomerName(const CustomerRecord& customer) {

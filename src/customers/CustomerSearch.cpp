@@ -1,5 +1,6 @@
 #include "customers/CustomerSearch.h"
 
+#include "customers/Capitals.h"
 #include "customers/CustomerNames.h"
 
 #include <algorithm>
@@ -15,32 +16,6 @@ constexpr int proposedTelephone = 8;
 
 const QString resultsCaption = u"Customers Search by Name Results"_s;
 const QString listCaption = u"Customer List"_s;
-
-/// The capital of each character of the code page. A character stays one character, and one whose
-/// capital the code page lacks stays as it is.
-std::array<char, 256> MakeCapitals() {
-    std::array<char, 256> capitals{};
-    for (size_t code = 0; code < capitals.size(); ++code) {
-        const auto byte = char(code);
-        const QString capital(FromCodePage({&byte, 1}).at(0).toUpper());
-        capitals[code] = IsInCodePage(capital) ? ToCodePage(capital).at(0) : byte;
-    }
-    return capitals;
-}
-
-char Capital(char character) {
-    static const std::array<char, 256> capitals = MakeCapitals();
-    return capitals[quint8(character)];
-}
-
-QString InCapitals(const QString& text) {
-    // What no record can hold is found in none.
-    if (!IsInCodePage(text))
-        return text;
-    QByteArray bytes = ToCodePage(text);
-    std::transform(bytes.begin(), bytes.end(), bytes.begin(), Capital);
-    return FromCodePage(bytes);
-}
 
 QByteArrayView FieldOf(const CustomerRecord& customer, SearchField field) {
     switch (field) {
@@ -71,8 +46,8 @@ QByteArrayView FieldOf(const CustomerRecord& customer, SearchField field) {
 /// Whether a text in capitals occurs anywhere in the field.
 bool Occurs(const QByteArray& wanted, QByteArrayView field) {
     std::array<char, sizeof(CustomerRecord)> capitals;
-    const auto end = std::transform(field.begin(), field.end(), capitals.begin(), Capital);
-    return QByteArrayView(capitals.data(), end - capitals.begin()).contains(wanted);
+    const char* const end = WriteCapitals(field, capitals.data());
+    return QByteArrayView(capitals.data(), end).contains(wanted);
 }
 
 QString DisplayName(const CustomerRecord& customer) {
@@ -85,7 +60,8 @@ CustomerSearch::CustomerSearch(CustomerSelection& customerSelection, CustomerFil
                                const LiveSettings& liveSettings, Operator& person)
     : fgCustomersFound({u"Customer Name"_s, u"Telephone"_s, u"Rec"_s}),
       customers(customerSelection), files(customerFiles), settings(liveSettings), user(person) {
-    fgCustomersFound.AlignRight(int(FoundColumn::Record));
+    fgCustomersFound.AlignCentre(int(FoundColumn::Telephone));
+    fgCustomersFound.AlignCentre(int(FoundColumn::Record));
     Load();
 }
 
@@ -140,17 +116,17 @@ void CustomerSearch::cmdStartSearch_Click() {
 }
 
 /// Records that the file does not hold yet are none to be found.
-int CustomerSearch::FillGrid(SearchField field, const QString& searchText) {
+int CustomerSearch::FillGrid(SearchField field, const QString& searchText, bool listMode) {
     const GridModel::Refill refill(fgCustomersFound);
     fgCustomersFound.SetRows(1);
-    const bool isInCodePage = IsInCodePage(searchText);
+    // The list is one of all records: to a field it adds none.
+    const bool isSearched = !listMode && IsInCodePage(searchText);
     const QByteArray wanted = ToCodePage(searchText);
     int foundCount = 0;
     const qint32 count = std::min(customers.CustomerCount, qint32(files.Count()));
     files.VisitAll(count, [&](qint32 number) {
         const CustomerRecord& customer = files.Customer;
-        if (field != SearchField::All &&
-            !(isInCodePage && Occurs(wanted, FieldOf(customer, field))))
+        if (field != SearchField::All && !(isSearched && Occurs(wanted, FieldOf(customer, field))))
             return;
         ++foundCount;
         // By twice as many each time: adding thousands one by one would take longer than reading
@@ -170,7 +146,7 @@ int CustomerSearch::FillGrid(SearchField field, const QString& searchText) {
 void CustomerSearch::FindCustomers(SearchField field, const QString& searchText, bool listMode,
                                    int& foundCount) {
     HasFoundNobody = false;
-    foundCount = FillGrid(field, searchText);
+    foundCount = FillGrid(field, searchText, listMode);
     if (listMode)
         return;
     if (foundCount == 0) {
@@ -195,6 +171,7 @@ void CustomerSearch::ShowFound(const QString& caption, bool isWholeFile) {
 }
 
 void CustomerSearch::LocateInList() {
+    // Also where there is no file, and so no list to take its place.
     customers.BringRecordToFront();
     mnuPrint_Click();
 }

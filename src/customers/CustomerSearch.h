@@ -51,9 +51,10 @@ public:
     void cmdHideSearch_Click();
     void cmdStartSearch_Click();
 
-    /// Fills the grid with the customers whose field holds the text anywhere; without `listMode` it
-    /// also goes on to the one found, to the grid with several, or tells that there is none. The
-    /// text is in capitals and without blanks at its ends. `foundCount` returns the rows.
+    /// Fills the grid with the customers whose field holds the text anywhere, and goes on to the
+    /// one found, to the grid with several, or tells that there is none. The text is in capitals
+    /// and without blanks at its ends. With `listMode`, which is for All, it only fills the grid; a
+    /// field finds nothing then. `foundCount` returns the rows.
     void FindCustomers(SearchField field, const QString& searchText, bool listMode,
                        int& foundCount);
 
@@ -67,7 +68,7 @@ public:
 
 private:
     void ShowFound(const QString& caption, bool isWholeFile);
-    int FillGrid(SearchField field, const QString& searchText);
+    int FillGrid(SearchField field, const QString& searchText, bool listMode);
     qint32 RecordOfRow(int row) const;
 
     CustomerSelection& customers;

@@ -4,7 +4,6 @@
 #include "platform/Grid.h"
 #include "platform/Keys.h"
 
-#include <QHeaderView>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -17,9 +16,7 @@ CustomersFoundPanel::CustomersFoundPanel(CustomerSearch& customerSearch)
     setObjectName(u"fraCustomersFound"_s);
     fgCustomersFound->setAccessibleName(u"Customers found"_s);
     // A name has the most to show.
-    fgCustomersFound->horizontalHeader()->setStretchLastSection(false);
-    fgCustomersFound->horizontalHeader()->setSectionResizeMode(int(FoundColumn::Name),
-                                                               QHeaderView::Stretch);
+    fgCustomersFound->StretchColumn(int(FoundColumn::Name));
     fgCustomersFound->SetEmptyHint(u"There are no customers yet. Enter the first one in the "
                                    u"account data."_s);
     Rows()->addWidget(MakeGuide());

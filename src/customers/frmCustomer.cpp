@@ -233,7 +233,10 @@ QWidget* frmCustomer::MakeNameRow() {
     auto* business =
         MakeText(CustomerText::BusinessName, u"Name of the business"_s, addressWidth, 30);
     MakeAccountList();
-    return InOneLine({business, cboTitle, first, middle, last, cboAccounts});
+    QWidget* row = InOneLine({business, cboTitle, first, middle, last, cboAccounts});
+    // The fields below stay where they are, whatever stands in the place of the name.
+    row->setMinimumHeight(cboAccounts->sizeHint().height());
+    return row;
 }
 
 void frmCustomer::MakeAccountList() {

@@ -1,6 +1,7 @@
 #include "platform/ChoiceList.h"
 
 #include "platform/EntryField.h"
+#include "platform/Screen.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -31,4 +32,12 @@ void ChoiceList::mousePressEvent(QMouseEvent* event) {
 void ChoiceList::showEvent(QShowEvent* event) {
     QListView::showEvent(event);
     doItemsLayout();
+}
+
+ChoiceList* MakeList(const QString& name, const QString& accessibleName,
+                     QAbstractItemModel& entries) {
+    auto* list = Named(new ChoiceList, name);
+    list->setAccessibleName(accessibleName);
+    list->setModel(&entries);
+    return list;
 }

@@ -20,3 +20,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void showEvent(QShowEvent* event) override;
 };
+
+/// A list of that name over the entries of a model, which are not its own.
+ChoiceList* MakeList(const QString& name, const QString& accessibleName,
+                     QAbstractItemModel& entries);

@@ -61,12 +61,18 @@ QByteArray ToCodePage(QStringView text) {
 }
 
 QString FromCodePage(QByteArrayView bytes) {
-    QString text = QString::fromLatin1(bytes);
-    for (QChar& character : text) {
+    QString text;
+    AppendFromCodePage(text, bytes);
+    return text;
+}
+
+void AppendFromCodePage(QString& text, QByteArrayView bytes) {
+    const qsizetype start = text.size();
+    text += QLatin1StringView(bytes);
+    std::for_each(text.begin() + start, text.end(), [](QChar& character) {
         if (IsMiddleByte(character.unicode()))
             character = middleCharacters[character.unicode() - firstMiddleByte];
-    }
-    return text;
+    });
 }
 
 bool IsInCodePage(QStringView text) {

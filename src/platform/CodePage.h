@@ -13,4 +13,6 @@ size_t EncodeInto(char* bytes, size_t room, QStringView text);
 /// The same, behind what `bytes` holds: for texts of many lines.
 void AppendInCodePage(QByteArray& bytes, QStringView text);
 QString FromCodePage(QByteArrayView bytes);
+/// The same, behind what `text` holds.
+void AppendFromCodePage(QString& text, QByteArrayView bytes);
 bool IsInCodePage(QStringView text);

@@ -54,14 +54,16 @@ void DatePicker::Enter(QDate newDate) {
     Q_EMIT Changed(newDate);
 }
 
-void DatePicker::TakeTyped() {
+bool DatePicker::TakeTyped() {
     const auto typed = RegionalFormats::Current().ParseDate(text());
     if (!typed) {
         ShowDate(date);
         Q_EMIT Refused();
-    } else if (*typed != date) {
-        Enter(*typed);
+        return false;
     }
+    if (*typed != date)
+        Enter(*typed);
+    return true;
 }
 
 void DatePicker::keyPressEvent(QKeyEvent* event) {

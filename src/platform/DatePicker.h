@@ -19,8 +19,8 @@ public:
     /// The calendar offers no day before it. What is typed is for the screen to correct.
     void SetEarliest(QDate earliestDate) { earliest = earliestDate; }
     /// Takes what is typed, as leaving the field does: a button that is pressed by its key works on
-    /// what the field shows.
-    void TakeTyped();
+    /// what the field shows. False when it is no date.
+    bool TakeTyped();
 
 Q_SIGNALS:
     void Changed(QDate date);

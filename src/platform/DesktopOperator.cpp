@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFontDialog>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPrinter>
@@ -37,6 +38,16 @@ QString TitleOr(const QString& title) {
     return title.isEmpty() ? ProgramTitle() : title;
 }
 
+/// A few words alone would leave too little room for the title between the icons of a window's
+/// frame. An icon that is set later takes the room away again.
+int Show(QMessageBox& box) {
+    constexpr double frameIcons = 10;
+    const int width = box.fontMetrics().horizontalAdvance(box.windowTitle()) + Em(frameIcons);
+    auto* rows = qobject_cast<QGridLayout*>(box.layout());
+    rows->addItem(new QSpacerItem(width, 0), rows->rowCount(), 0, 1, rows->columnCount());
+    return box.exec();
+}
+
 /// Shows a message with these two buttons. Questions guard deletions: a key pressed without looking
 /// must not accept.
 bool Accepts(QMessageBox& box, QMessageBox::StandardButton accept,
@@ -44,7 +55,7 @@ bool Accepts(QMessageBox& box, QMessageBox::StandardButton accept,
     box.setStandardButtons(accept | decline);
     box.setDefaultButton(decline);
     box.setEscapeButton(decline);
-    return box.exec() == accept;
+    return Show(box) == accept;
 }
 
 } // namespace
@@ -62,7 +73,7 @@ Answer DesktopOperator::MsgBox(const QString& text, Buttons buttons, const QStri
     if (buttons == Buttons::Ok) {
         box.setIcon(QMessageBox::Information);
         box.setStandardButtons(QMessageBox::Ok);
-        box.exec();
+        Show(box);
         return Answer::Ok;
     }
     if (buttons == Buttons::OkCancel) {

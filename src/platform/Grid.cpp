@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 
@@ -38,8 +39,9 @@ Grid::Grid(GridModel& gridModel, QWidget* parent) : QTableView(parent), grid(gri
     connect(this, &QTableView::clicked, this,
             [this](const QModelIndex& index) { Q_EMIT Clicked(index.row() + 1, index.column()); });
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int column) {
-        // One column takes what is left at any time, also while a button is pressed elsewhere.
-        isSizedByUser = isSizedByUser || (column != StretchedColumn() &&
+        // The grid is filled, and one column takes what is left, also while a button is pressed
+        // elsewhere.
+        isSizedByUser = isSizedByUser || (!isFitting && column != StretchedColumn() &&
                                           QApplication::mouseButtons() != Qt::NoButton);
     });
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
@@ -70,6 +72,7 @@ int Grid::StretchedColumn() const {
 void Grid::FitColumns() {
     if (isSizedByUser)
         return;
+    const QScopedValueRollback fitting(isFitting, true);
     for (int column = 0; column < grid.Columns(); ++column) {
         const int width =
             qMax(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
@@ -124,10 +127,13 @@ bool Grid::IsEmpty() const {
     return true;
 }
 
+/// An empty grid keeps one row for the rules, which the hint stands in for: picked out as the
+/// current row it would look like a delivery without words.
 void Grid::paintEvent(QPaintEvent* event) {
-    QTableView::paintEvent(event);
-    if (emptyHint.isEmpty() || !IsEmpty())
+    if (!IsEmpty()) {
+        QTableView::paintEvent(event);
         return;
+    }
     QPainter painter(viewport());
     painter.setPen(Theme::Current().softText);
     painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, emptyHint);

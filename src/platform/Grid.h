@@ -41,6 +41,7 @@ private:
     GridModel& grid;
     QString emptyHint;
     bool isSizedByUser = false;
+    bool isFitting = false;
     /// Below 0 for the last that is visible.
     int stretched = -1;
 };

@@ -3,13 +3,15 @@
 #include "platform/RuntimeFailure.h"
 
 #include <algorithm>
+#include <iterator>
+#include <numeric>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 GridModel::GridModel(const QStringList& headings, QObject* parent)
-    : QAbstractTableModel(parent), cells(1, {headings.begin(), headings.end()}),
-      alignments(size_t(headings.size()), Qt::AlignLeft) {}
+    : QAbstractTableModel(parent), columns(int(headings.size())),
+      cells(headings.begin(), headings.end()), alignments(size_t(headings.size()), Qt::AlignLeft) {}
 
 GridModel::Refill::Refill(GridModel& model) : grid(model) {
     if (grid.refills++ == 0)
@@ -35,7 +37,7 @@ void GridModel::ClampCurrent() {
 
 void GridModel::SetRows(int rows) {
     const Refill refill(*this);
-    cells.resize(size_t(std::max(rows, 1)), std::vector<QString>(size_t(Columns())));
+    cells.resize(Place(std::max(rows, 1), 0));
     ClampCurrent();
 }
 
@@ -43,24 +45,25 @@ void GridModel::ClearGrid() {
     const Refill refill(*this);
     // Not by way of the heading alone, which would make that current.
     SetRows(2);
-    cells[1].assign(size_t(Columns()), {});
+    std::fill(cells.begin() + columns, cells.end(), QString());
 }
 
 void GridModel::RemoveRow(int row) {
     CheckCell(row > 0 ? row : Rows(), 0);
     const Refill refill(*this);
-    cells.erase(cells.begin() + row);
+    const auto start = cells.begin() + qsizetype(Place(row, 0));
+    cells.erase(start, start + columns);
     ClampCurrent();
 }
 
 const QString& GridModel::Text(int row, int column) const {
     CheckCell(row, column);
-    return cells[size_t(row)][size_t(column)];
+    return cells[Place(row, column)];
 }
 
 void GridModel::SetText(int row, int column, QString text) {
     CheckCell(row, column);
-    cells[size_t(row)][size_t(column)] = std::move(text);
+    cells[Place(row, column)] = std::move(text);
     if (refills > 0)
         return;
     if (row == 0)
@@ -71,10 +74,11 @@ void GridModel::SetText(int row, int column, QString text) {
 
 int GridModel::FindRow(int column, const QString& text) const {
     CheckCell(0, column);
-    const auto found =
-        std::find_if(cells.begin() + 1, cells.end(),
-                     [&](const std::vector<QString>& row) { return row[size_t(column)] == text; });
-    return found == cells.end() ? 0 : int(found - cells.begin());
+    for (int row = 1; row < Rows(); ++row) {
+        if (cells[Place(row, column)] == text)
+            return row;
+    }
+    return 0;
 }
 
 void GridModel::SetCurrent(int row, int column) {
@@ -89,11 +93,12 @@ void GridModel::SetCurrent(int row, int column) {
 
 void GridModel::Sort(int column, CellOrder isBefore) {
     CheckCell(0, column);
-    const Refill refill(*this);
-    const auto at = size_t(column);
-    std::stable_sort(cells.begin() + 1, cells.end(), [&](const auto& one, const auto& other) {
-        return isBefore(one[at], other[at]);
+    std::vector<int> order(static_cast<size_t>(DataRows()));
+    std::iota(order.begin(), order.end(), 1);
+    std::stable_sort(order.begin(), order.end(), [&](int one, int other) {
+        return isBefore(cells[Place(one, column)], cells[Place(other, column)]);
     });
+    Arrange(order);
 }
 
 void GridModel::SortAsText(int column) {
@@ -102,18 +107,33 @@ void GridModel::SortAsText(int column) {
 
 void GridModel::SortAsNumbers(int column, CellNumber numberOf) {
     CheckCell(0, column);
-    const Refill refill(*this);
-    // Reading a number takes longer than moving a row, so each is read once.
-    std::vector<std::pair<double, std::vector<QString>>> rows;
-    rows.reserve(size_t(DataRows()));
-    for (auto row = cells.begin() + 1; row != cells.end(); ++row) {
-        const double number = numberOf((*row)[size_t(column)]);
-        rows.emplace_back(number, std::move(*row));
-    }
-    std::stable_sort(rows.begin(), rows.end(),
+    // Reading a number takes longer than comparing two, so each is read once.
+    std::vector<std::pair<double, int>> numbers;
+    numbers.reserve(size_t(DataRows()));
+    for (int row = 1; row < Rows(); ++row)
+        numbers.emplace_back(numberOf(cells[Place(row, column)]), row);
+    std::stable_sort(numbers.begin(), numbers.end(),
                      [](const auto& one, const auto& other) { return one.first < other.first; });
-    std::transform(rows.begin(), rows.end(), cells.begin() + 1,
-                   [](auto& row) { return std::move(row.second); });
+    std::vector<int> order;
+    order.reserve(numbers.size());
+    for (const auto& [number, row] : numbers)
+        order.push_back(row);
+    Arrange(order);
+}
+
+/// Puts the data rows into this order of their numbers.
+void GridModel::Arrange(const std::vector<int>& order) {
+    const Refill refill(*this);
+    std::vector<QString> arranged;
+    arranged.reserve(cells.size());
+    const auto take = [&](int row) {
+        const auto start = cells.begin() + qsizetype(Place(row, 0));
+        std::move(start, start + columns, std::back_inserter(arranged));
+    };
+    take(0);
+    for (const int row : order)
+        take(row);
+    cells = std::move(arranged);
 }
 
 void GridModel::AlignRight(int column) {

@@ -18,8 +18,8 @@ public:
     explicit GridModel(const QStringList& headings, QObject* parent = nullptr);
 
     /// Rows with the heading row; at least 1.
-    int Rows() const { return int(cells.size()); }
-    int Columns() const { return int(cells.front().size()); }
+    int Rows() const { return int(cells.size()) / columns; }
+    int Columns() const { return columns; }
     /// Rows without the heading row.
     int DataRows() const { return Rows() - 1; }
 
@@ -75,10 +75,17 @@ Q_SIGNALS:
 
 private:
     void CheckCell(int row, int column) const;
+    size_t Place(int row, int column) const {
+        return size_t(row) * size_t(columns) + size_t(column);
+    }
     void ClampCurrent();
+    void Arrange(const std::vector<int>& order);
     QVariant AlignmentOf(int column) const;
 
-    std::vector<std::vector<QString>> cells;
+    int columns;
+    /// Row by row: thousands of rows with room of their own each would take longer to make and to
+    /// give up than to fill.
+    std::vector<QString> cells;
     int currentRow = 0;
     int currentColumn = 0;
     int refills = 0;

@@ -19,5 +19,6 @@ Q_SIGNALS:
     void DoubleClicked();
 
 protected:
+    void insertFromMimeData(const QMimeData* source) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
 };

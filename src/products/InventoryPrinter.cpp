@@ -124,11 +124,6 @@ void InventoryPrinter::PrintTallySheet(const QString& location) {
     surface.EndJob();
 }
 
-void InventoryPrinter::PrintAt(float x, const QString& text) {
-    printer.PositionAt(x, 0);
-    surface.Print(text);
-}
-
 void InventoryPrinter::PrintPageHeader(InventoryKind kind, const QString& location) {
     if (disk.FileExists(u"/MyBusinessData.txt"_s))
         printer.PrintBusinessHeading(headingLeft, businessTop, bodySize);
@@ -144,7 +139,7 @@ void InventoryPrinter::PrintPageHeader(InventoryKind kind, const QString& locati
     surface.Print(u"Date "_s + ShortDateText(clock.Today()));
     printer.PositionAt(0, columnsTop);
     for (const ColumnHeading& heading : ColumnsOf(kind))
-        PrintAt(heading.left, heading.text);
+        printer.PrintAt(heading.left, heading.text);
     surface.PrintLine();
     surface.PrintLine();
 }
@@ -177,13 +172,13 @@ const QString& InventoryPrinter::Cell(int row, ItemColumn column) const {
 }
 
 void InventoryPrinter::PrintReportLine(int row) {
-    PrintAt(descriptionLeft, Cell(row, ItemColumn::Description));
+    printer.PrintAt(descriptionLeft, Cell(row, ItemColumn::Description));
     for (const ReportCell& cell : reportCells)
         surface.PrintEndingAt(cell.end, Cell(row, cell.column));
 }
 
 void InventoryPrinter::PrintTallyLine(int row) {
-    PrintAt(descriptionLeft, Cell(row, ItemColumn::Description));
+    printer.PrintAt(descriptionLeft, Cell(row, ItemColumn::Description));
     surface.CurrentX = countStart;
     surface.Print(countToFillIn);
     surface.PrintEndingAt(reorderPointEnd, Cell(row, ItemColumn::ReorderPoint));

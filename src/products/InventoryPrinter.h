@@ -33,7 +33,6 @@ private:
     template <typename PrintLine>
     void PrintRows(InventoryKind kind, const QString& location, PrintLine&& printLine);
     bool IsPageFull() const;
-    void PrintAt(float x, const QString& text);
     const QString& Cell(int row, ItemColumn column) const;
     QString JobName(InventoryKind kind) const;
 

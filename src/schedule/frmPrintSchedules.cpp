@@ -34,12 +34,6 @@ constexpr double itemsHeight = 7;
 constexpr int addressLines = 6;
 constexpr double logoSize = 1.75;
 
-ChoiceList* MakeList(const QString& name, const QString& accessibleName) {
-    auto* list = Named(new ChoiceList, name);
-    list->setAccessibleName(accessibleName);
-    return list;
-}
-
 QLabel* MakeLogo() {
     auto* imgLogo = Named(new QLabel, u"imgLogo"_s);
     const QSize size(Em(logoSize), Em(logoSize));
@@ -140,9 +134,8 @@ QWidget* frmPrintSchedules::MakeDateCard() {
 
 QWidget* frmPrintSchedules::MakeVehicleCard() {
     auto* card = new Card(u"Vehicle"_s);
-    lstVehicles = MakeList(u"lstVehicles"_s, u"Vehicle"_s);
+    lstVehicles = MakeList(u"lstVehicles"_s, u"Vehicle"_s, office.fleet.Names);
     lstVehicles->setToolTip(u"Select an Assignment"_s);
-    lstVehicles->setModel(&office.fleet.Names);
     card->Rows()->addWidget(lstVehicles, 1);
     connect(lstVehicles->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &frmPrintSchedules::lstVehicles_Click);
@@ -209,8 +202,8 @@ QWidget* frmPrintSchedules::MakePrintCard() {
 
 QWidget* frmPrintSchedules::MakeWorkScheduleCard() {
     auto* card = new Card(u"Scheduled Deliveries"_s);
-    lstWorkSchedule = MakeList(u"lstWorkSchedule"_s, u"Scheduled Deliveries"_s);
-    lstWorkSchedule->setModel(&board.lstWorkSchedule);
+    lstWorkSchedule =
+        MakeList(u"lstWorkSchedule"_s, u"Scheduled Deliveries"_s, board.lstWorkSchedule);
     // As high as the cards beside it.
     lstWorkSchedule->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     lstWorkSchedule->setMinimumHeight(Em(workScheduleHeight));

@@ -16,7 +16,8 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QSignalBlocker>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -31,14 +32,6 @@ constexpr double timesWidth = 8;
 constexpr double factsWidth = 10;
 constexpr int factsGap = 4;
 constexpr int headingGap = 4;
-
-ChoiceList* MakeList(const QString& name, const QString& accessibleName,
-                     QAbstractItemModel& entries) {
-    auto* list = Named(new ChoiceList, name);
-    list->setAccessibleName(accessibleName);
-    list->setModel(&entries);
-    return list;
-}
 
 /// The text of the selected entry: a list that has the focus has a current entry, which need not be
 /// chosen.
@@ -152,7 +145,7 @@ QWidget* frmWeekly::MakeVehicleCard() {
     connect(lstVehicles->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &frmWeekly::lstVehicles_Click);
     // A click on the vehicle already chosen clears the grid as well.
-    connect(lstVehicles, &QListView::clicked, this, &frmWeekly::lstVehicles_Click);
+    connect(lstVehicles, &ChoiceList::ChosenAgain, this, &frmWeekly::lstVehicles_Click);
     connect(&office.fleet.Names, &QAbstractItemModel::modelReset, this,
             &frmWeekly::lstVehicles_Refill);
     return card;
@@ -203,6 +196,10 @@ QWidget* frmWeekly::MakeReschedulePanel() {
     fraReschedule = Named(new Card(u"Rescheduling a Delivery"_s), u"fraReschedule"_s);
     dtReschedule = MakeDatePicker(u"dtReschedule"_s);
     connect(dtReschedule, &DatePicker::Changed, this, &frmWeekly::dtReschedule_Change);
+    connect(dtReschedule, &DatePicker::Refused, this, [this] {
+        // The mouse takes the focus to the button before the button tells of its click.
+        isSaveOverNoDate = focusWidget() == cmdweekly[SaveDelivery];
+    });
     lstTime = MakeList(u"lstTime"_s, u"New Time"_s, office.deliveryTimes);
     lstTime->setCurrentIndex(office.deliveryTimes.index(DeliveryTimes::firstSelection));
     lstTime->setFixedHeight(Em(choicesHeight));
@@ -330,11 +327,10 @@ void frmWeekly::lstVehicles_Click() {
     ShowReschedule();
 }
 
+/// Nothing is chosen in a list that has been filled anew, not the vehicle of before either. It is
+/// meant so.
 void frmWeekly::lstVehicles_Refill() {
-    // The vehicle stays chosen when the list has it again.
-    const QSignalBlocker chosen(lstVehicles->selectionModel());
-    Choose(*lstVehicles, office.fleet.Names, schedule.lstVehicles);
-    schedule.lstVehicles = ChosenIn(*lstVehicles);
+    schedule.lstVehicles.clear();
 }
 
 void frmWeekly::fgWeekly_Click(int row, int column) {
@@ -342,12 +338,18 @@ void frmWeekly::fgWeekly_Click(int row, int column) {
     ShowGrid();
 }
 
-void frmWeekly::cmdweekly_Click(Button index) {
-    // A button that is pressed by its key leaves the focus where it is.
+/// A button that is pressed by its key leaves the focus in the field. False when a text is no date.
+bool frmWeekly::TakeTypedDates() {
+    bool areDates = true;
     for (DatePicker* picker : {DTStarting, DTEnding, dtReschedule}) {
         if (picker->isVisible())
-            picker->TakeTyped();
+            areDates = picker->TakeTyped() && areDates;
     }
+    return areDates;
+}
+
+void frmWeekly::cmdweekly_Click(Button index) {
+    const bool areDates = TakeTypedDates();
     switch (index) {
     case ReturnToMenu:
         screens.GoFrom(ScreenName::frmWeekly, ScreenName::frmStartup);
@@ -378,7 +380,10 @@ void frmWeekly::cmdweekly_Click(Button index) {
         cmdweekly_RescheduleDelivery();
         break;
     case SaveDelivery:
-        cmdweekly_SaveDelivery();
+        if (areDates && !std::exchange(isSaveOverNoDate, false))
+            cmdweekly_SaveDelivery();
+        else // The date of before has come back: the operator sees it before it is saved.
+            dtReschedule->setFocus(Qt::TabFocusReason);
         break;
     case ExitWithoutSaving:
         cmdweekly_ExitWithoutSaving();
@@ -400,6 +405,7 @@ void frmWeekly::cmdweekly_RemoveDelivery() {
 }
 
 void frmWeekly::cmdweekly_RescheduleDelivery() {
+    isSaveOverNoDate = false;
     schedule.OpenReschedule();
     const ReschedulePanel& panel = schedule.fraReschedule;
     dtReschedule->SetDate(panel.dtReschedule);

@@ -65,6 +65,7 @@ private:
     void lstVehicles_Click();
     void lstVehicles_Refill();
     void fgWeekly_Click(int row, int column);
+    bool TakeTypedDates();
     void cmdweekly_Click(Button index);
     void cmdweekly_Preset(WeeklySchedule::Preset preset);
     void cmdweekly_RemoveDelivery();
@@ -76,6 +77,8 @@ private:
     Screens& screens;
     WeeklySchedule& schedule;
     bool isPrepared = false;
+    /// "Save Delivery" has been pressed on a new date that is none.
+    bool isSaveOverNoDate = false;
 
     DatePicker* DTStarting = nullptr;
     DatePicker* DTEnding = nullptr;

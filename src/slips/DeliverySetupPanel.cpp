@@ -38,11 +38,10 @@ QStringListModel* MakeFrequencyModel(QObject* parent) {
     return new QStringListModel(DeliveryCreation::Frequencies(), parent);
 }
 
-ChoiceList* MakeList(const QString& name, const QString& accessibleName,
-                     QAbstractItemModel* model) {
-    auto* list = Named(new ChoiceList, name);
-    list->setAccessibleName(accessibleName);
-    list->setModel(model);
+/// A list that Enter goes through on its way through the form.
+ChoiceList* MakeFormList(const QString& name, const QString& accessibleName,
+                         QAbstractItemModel& entries) {
+    ChoiceList* list = MakeList(name, accessibleName, entries);
     list->setMinimumHeight(Em(leastListHeight));
     list->setProperty("enterStops", true);
     return list;
@@ -198,7 +197,7 @@ QWidget* DeliverySetupPanel::MakeRecurrence() {
     MakeOption(RecurringOption::OneTime, u"This is a one-time Delivery"_s);
     lblFrequency = Named(new QLabel(u"Select Delivery Frequency"_s), Indexed(u"Label3"_s, 5));
     lstFrequency =
-        MakeList(u"lstFrequency"_s, u"Select Delivery Frequency"_s, MakeFrequencyModel(this));
+        MakeFormList(u"lstFrequency"_s, u"Select Delivery Frequency"_s, *MakeFrequencyModel(this));
     connect(lstFrequency->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& entry) { lstFrequency_Click(entry.row()); });
     // A click on the frequency already chosen brings its week days up again.
@@ -272,14 +271,14 @@ bool DeliverySetupPanel::eventFilter(QObject* watched, QEvent* event) {
 
 QWidget* DeliverySetupPanel::MakeTime() {
     auto* card = new Card(u"Delivery Time"_s);
-    lstTime = MakeList(u"lstTime"_s, u"Delivery Time"_s, &parts.times);
+    lstTime = MakeFormList(u"lstTime"_s, u"Delivery Time"_s, parts.times);
     card->Rows()->addWidget(lstTime, 1);
     return card;
 }
 
 QWidget* DeliverySetupPanel::MakeVehicle() {
     auto* card = new Card(u"Load to Vehicle"_s);
-    lstVehicles = MakeList(u"lstVehicles"_s, u"Load to Vehicle"_s, &parts.fleet.Names);
+    lstVehicles = MakeFormList(u"lstVehicles"_s, u"Load to Vehicle"_s, parts.fleet.Names);
     ckCapacity = MakeBox(u"ckCapacity"_s, u"Ignore Vehicle Capacity"_s);
     ckProduct = MakeBox(u"ckProduct"_s, u"Ignore Specific Product"_s);
     card->Rows()->addWidget(lstVehicles, 1);

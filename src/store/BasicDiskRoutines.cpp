@@ -493,15 +493,17 @@ void BasicDiskRoutines::ReadRecord(qint16 fileNumber, qint32 recordNumber, void*
     ReadAt(random, StartOf(random, recordNumber, size, operation), record, size, operation);
 }
 
-void BasicDiskRoutines::ReadRecords(qint16 fileNumber, qint16 count, void* records, size_t size) {
+void BasicDiskRoutines::ReadRecords(qint16 fileNumber, qint32 first, qint16 count, void* records,
+                                    size_t size) {
     const Random& random = RandomOn(fileNumber);
     const auto operation = [&] {
-        return u"Reading the %1 records of %2"_s.arg(count).arg(random.name);
+        return u"Reading %1 records from record %2 of %3"_s.arg(count).arg(first).arg(random.name);
     };
     if (size != size_t(random.recordLength))
         throw RuntimeFailure(FailureKind::BadRecord,
                              operation() + u" failed: a record has another length."_s);
-    ReadAt(random, 0, records, size_t(count) * size, operation);
+    ReadAt(random, StartOf(random, first, size, operation), records, size_t(count) * size,
+           operation);
 }
 
 void BasicDiskRoutines::ReadAt(const Random& random, off_t start, void* bytes, size_t size,

@@ -92,8 +92,9 @@ public:
     /// Record numbers count from 1. What lies beyond the end of the file reads as zero bytes. A
     /// `size` beyond the file's record length is a failure of kind BadRecord.
     void ReadRecord(qint16 fileNumber, qint32 recordNumber, void* record, size_t size);
-    /// Records 1 to `count` in one go, `size` bytes each, which is the file's record length.
-    void ReadRecords(qint16 fileNumber, qint16 count, void* records, size_t size);
+    /// As many records from `first` on in one go, `size` bytes each, which is the file's record
+    /// length.
+    void ReadRecords(qint16 fileNumber, qint32 first, qint16 count, void* records, size_t size);
     void WriteRecord(qint16 fileNumber, qint32 recordNumber, const void* record, size_t size);
 
 private:

@@ -110,8 +110,23 @@ template <typename Record>
 std::vector<Record> ReadRecords(BasicDiskRoutines& disk, qint16 fileNumber, qint16 count) {
     static_assert(std::is_trivially_copyable_v<Record> && alignof(Record) == 1);
     std::vector<Record> records(static_cast<size_t>(count));
-    disk.ReadRecords(fileNumber, count, records.data(), sizeof(Record));
+    disk.ReadRecords(fileNumber, 1, count, records.data(), sizeof(Record));
     return records;
+}
+
+/// Calls `visit(number, record)` for the records 1 to `count`, one after the other. They are read
+/// in blocks: asking the system for each would take longer than what is done with most of them.
+template <typename Record, typename Visit>
+void VisitRecords(BasicDiskRoutines& disk, qint16 fileNumber, qint32 count, Visit&& visit) {
+    static_assert(std::is_trivially_copyable_v<Record> && alignof(Record) == 1);
+    constexpr qint32 recordsInBlock = 128;
+    std::vector<Record> block(recordsInBlock);
+    for (qint32 first = 1; first <= count; first += recordsInBlock) {
+        const qint32 size = std::min(recordsInBlock, count - first + 1);
+        disk.ReadRecords(fileNumber, first, qint16(size), block.data(), sizeof(Record));
+        for (qint32 i = 0; i < size; ++i)
+            visit(first + i, block[size_t(i)]);
+    }
 }
 
 template <typename Record>

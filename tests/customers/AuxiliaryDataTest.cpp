@@ -149,6 +149,25 @@ TEST_F(AuxiliaryDataTest, SavingAgainReplacesTheFiles) {
     EXPECT_EQ(Saved(QString()), "\r\n");
 }
 
+TEST_F(AuxiliaryDataTest, SavingDeletesTheFilesFirstSoThatAProtectedOneIsReplaced) {
+    folder.Write(BoxFile(u"4471"_s, 0), "old\r\n");
+    DropRootRights(folder);
+    ASSERT_TRUE(QFile::setPermissions(folder.PathOf(BoxFile(u"4471"_s, 0)), QFile::ReadOwner));
+    EXPECT_EQ(Saved(u"new"_s), "new\r\n");
+}
+
+TEST_F(AuxiliaryDataTest, SaveThatFailsAtTheFirstBoxHasDeletedAllSix) {
+    for (int box = 0; box < 6; ++box)
+        folder.Write(BoxFile(u"4471"_s, box), "old\r\n");
+    data.txtAux[0] = QString(5'000, u'x');
+    {
+        const FullDisk disk(100);
+        EXPECT_EQ(FailureOf([this] { data.SaveAuxData(u"4471"_s); }).Kind(), FailureKind::DiskFull);
+    }
+    for (int box = 1; box < 6; ++box)
+        EXPECT_FALSE(folder.Has(BoxFile(u"4471"_s, box))) << box;
+}
+
 TEST_F(AuxiliaryDataTest, TextComesBackWithALineBreakBehindIt) {
     EXPECT_EQ(Loaded("Key under the mat\r\n"), u"Key under the mat\n"_s);
     // Of an empty text that was saved, the line break is all there is.
@@ -229,7 +248,7 @@ TEST_F(AuxiliaryDataTest, RetainLeavesTheBoxesAsTheyAre) {
     EXPECT_EQ(data.txtAux[0], u"of the account\n"_s);
 }
 
-TEST_F(AuxiliaryDataTest, AccountsOfOneNumberShareOneFolderAndOthersDoNot) {
+TEST_F(AuxiliaryDataTest, BlanksAroundANumberNameNoOtherFolderAndACharacterMoreDoes) {
     data.txtAux[0] = u"text"_s;
     data.SaveAuxData(u"4471"_s);
     data.LoadAuxData(u"4471a"_s);

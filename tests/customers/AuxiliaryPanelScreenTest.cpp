@@ -110,6 +110,23 @@ TEST_F(AuxiliaryScreen, TextsAreTypedWithLineBreaksAndSavedWhenTheWindowIsClosed
     EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 1)), "\r\n");
 }
 
+TEST_F(AuxiliaryScreen, EveryKindOfLineBreakIsSavedAsOne) {
+    OpenWindow();
+    TypeInto(Aux(0), u"one"_s);
+    QTest::keyClick(Aux(0), Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClicks(Aux(0), u"two"_s);
+    QApplication::clipboard()->setText(u"\u2028three\u2029four"_s);
+    QTest::keyClick(Aux(0), Qt::Key_V, Qt::ControlModifier);
+    DoubleClick(Aux(1));
+    QTest::keyClicks(Big(), u"big"_s);
+    QTest::keyClick(Big(), Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClicks(Big(), u"text"_s);
+    ClickSave(4);
+    ClickSave(2);
+    EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 0)), "one\r\ntwo\r\nthree\r\nfour\r\n");
+    EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 1)), "big\r\ntext\r\n");
+}
+
 TEST_F(AuxiliaryScreen, CharactersOfEveryKindAreSavedAsTheFileCanHoldThem) {
     OpenWindow();
     QApplication::clipboard()->setText(u"Süd 5\u00a0€\r\n倉\nend"_s);
@@ -192,6 +209,13 @@ TEST_F(AuxiliaryScreen, HeadingIsNamedClearedByADoubleClickAndSavedByItsButton) 
     EXPECT_EQ(HeadingOf(1)->text(), QString());
 }
 
+TEST_F(AuxiliaryScreen, HeadingStaysAtAClick) {
+    OpenWindow();
+    QTest::mouseClick(HeadingOf(1), Qt::LeftButton);
+    EXPECT_EQ(HeadingOf(1)->text(), u"Heading #2"_s);
+    EXPECT_EQ(Focused(), u"txtHeading(1)"_s);
+}
+
 TEST_F(AuxiliaryScreen, ClearWordsDoNothing) {
     OpenWindow();
     TypeInto(Aux(0), u"text"_s);
@@ -226,6 +250,57 @@ TEST_F(AuxiliaryScreen, AccountNumberThatLeadsOutOfItsFolderStopsTheProgramAtThe
     EXPECT_EQ(Failures()[0].Kind(), FailureKind::BadFileName);
     Failures().clear();
     EXPECT_EQ(folder.Contents(), before);
+}
+
+TEST_F(AuxiliaryScreen, AccountNumbersOfTheFileThatLeadElsewhereStopTheProgramAtTheSave) {
+    folder.Write(u"AuxFiles/x/AuxFile0/Data.txt"_s, "of another account\r\n");
+    const QList<QByteArray> numbers = {".", "../x", "x/AuxFile0/..", "..\\x"};
+    for (const QByteArray& number : numbers) {
+        screens.Destroy(screen);
+        WriteCustomers({SampleCustomer{.account = number}});
+        Open(2);
+        Item(u"mnuAux"_s)->trigger();
+        EXPECT_EQ(Aux(0)->Text(), QString()) << number.toStdString();
+        TypeInto(Aux(0), u"text"_s);
+        const auto before = folder.Contents();
+        ClickSave(7);
+        ASSERT_EQ(Failures().size(), 1U) << number.toStdString();
+        EXPECT_EQ(Failures()[0].Kind(), FailureKind::BadFileName);
+        Failures().clear();
+        EXPECT_EQ(folder.Contents(), before);
+    }
+}
+
+TEST_F(AuxiliaryScreen, FilesWithCommasQuotesAndWithoutALineEndAreShownValueByValue) {
+    folder.Write(BoxFile(u"4471"_s, 0), "Gate, code 17");
+    folder.Write(BoxFile(u"4471"_s, 1), "\"Mind, the dog\",\"\"\r\n");
+    folder.Write(BoxFile(u"4471"_s, 2), "\"open");
+    folder.Write(BoxFile(u"4471"_s, 3), ",,\r\n");
+    folder.Write(BoxFile(u"4471"_s, 4), "");
+    OpenWindow();
+    EXPECT_EQ(Aux(0)->Text(), u"Gate\ncode 17\n"_s);
+    EXPECT_EQ(Aux(1)->Text(), u"Mind, the dog\n\n"_s);
+    EXPECT_EQ(Aux(2)->Text(), u"open\n"_s);
+    EXPECT_EQ(Aux(3)->Text(), u"\n\n\n"_s);
+    EXPECT_EQ(Aux(4)->Text(), QString());
+    EXPECT_EQ(Aux(5)->Text(), QString());
+    ClickSave(2);
+    EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 0)), "Gate\r\ncode 17\r\n\r\n");
+    EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 1)), "Mind, the dog\r\n\r\n\r\n");
+    EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 2)), "open\r\n\r\n");
+    EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 5)), "\r\n");
+}
+
+TEST_F(AuxiliaryScreen, MegabyteWithoutALineEndIsShownAndSaved) {
+    const QByteArray line(1'000'000, 'x');
+    folder.Write(BoxFile(u"4471"_s, 3), line);
+    OpenWindow();
+    EXPECT_EQ(Aux(3)->Text(), QString::fromLatin1(line) + u'\n');
+    DoubleClick(Aux(3));
+    EXPECT_EQ(Big()->Text().size(), 1'000'001);
+    ClickSave(4);
+    ClickSave(2);
+    EXPECT_EQ(folder.Read(BoxFile(u"4471"_s, 3)), line + "\r\n\r\n");
 }
 
 TEST_F(AuxiliaryScreen, MegabyteOfTextIsShownAndSaved) {

@@ -72,6 +72,7 @@ TEST_F(AuxiliaryWindowTest, AccountIsTheTextOfTheNameOrThePartsOfAPersonsOne) {
     window.mnuAux_Click();
     customers.MoveTo(Move::Next);
     customers.Fields.cboTitle = u" Ms "_s;
+    Text(CustomerText::FirstName) = u" Ann  "_s;
     Text(CustomerText::LastName) = u"Lee-Park "_s;
     window.mnuAux_Click();
     EXPECT_EQ(window.lblAccount, u"Ms Ann Lee-Park"_s);
@@ -204,6 +205,21 @@ TEST_F(AuxiliaryWindowTest, DeletedCustomersTextsStayForTheNextOfThatNumber) {
     customers.MoveTo(Move::Last);
     EXPECT_EQ(Text(CustomerText::LastName), u"Diaz"_s);
     EXPECT_EQ(data.txtAux[0], u"of the grocery\n"_s);
+}
+
+TEST_F(AuxiliaryWindowTest, AccountsOfOneNumberShareTheirTexts) {
+    LoadWith({SampleCustomer{}, SampleCustomer{.account = "77", .businessName = "Anvil Works"},
+              SampleCustomer{.businessName = "Grocery Depot"}});
+    data.txtAux[0] = u"of both"_s;
+    Click(AuxButton::ShowNextAccount);
+    EXPECT_EQ(data.txtAux[0], QString());
+    Click(AuxButton::ShowNextAccount);
+    EXPECT_EQ(Text(CustomerText::BusinessName), u"Grocery Depot"_s);
+    EXPECT_EQ(data.txtAux[0], u"of both\n"_s);
+    data.txtAux[0] = u"of the depot as well"_s;
+    Click(AuxButton::CloseWindow);
+    customers.MoveTo(Move::First);
+    EXPECT_EQ(data.txtAux[0], u"of the depot as well\n"_s);
 }
 
 TEST_F(AuxiliaryWindowTest, HeadingsAreSavedByTheirButtonForAllAccounts) {
@@ -356,9 +372,11 @@ protected:
 TEST_F(AuxiliaryWindowOfNoCustomerTest, ThereIsNoNextAccount) {
     office.auxiliaryWindow.mnuAux_Click();
     Text(CustomerText::AcctNo) = u"1"_s;
-    office.auxiliaryWindow.cmdSaveAux_Click(AuxButton::ShowNextAccount);
-    office.auxiliaryWindow.cmdSaveAux_Click(AuxButton::ShowPreviousAccount);
-    EXPECT_EQ(customers.CurrentRecord, 1);
+    for (const AuxButton button : {AuxButton::ShowNextAccount, AuxButton::ShowPreviousAccount}) {
+        office.auxiliaryWindow.cmdSaveAux_Click(button);
+        EXPECT_EQ(customers.CurrentRecord, 1);
+        EXPECT_EQ(Text(CustomerText::AcctNo), u"1"_s) << "what is being entered stays";
+    }
     EXPECT_FALSE(folder.Has(u"CustomerData.txt"_s));
     EXPECT_TRUE(folder.Has(BoxFile(u"1"_s, 0)));
 }

@@ -27,9 +27,6 @@ constexpr int copies = 3;
 class CustomerReportTest : public CustomerTest {
 protected:
     CustomerReportTest() {
-        // Letter paper turned.
-        printer.Width = 15840;
-        printer.Height = 12240;
         office.settings.BusinessData = {
             u"Tessel Gravel"_s, u"1 Quarry Road"_s, QString(), u"Springfield"_s, u"IL"_s,
             u"62701"_s,         u"217-555-0100"_s,  QString(), QString()};
@@ -263,11 +260,11 @@ TEST_F(CustomerReportTest, PageEndsWhenLessThanFiveLinesRemain) {
 TEST_F(CustomerReportTest, PageIsGoneOnWithWhileFiveLinesRemain) {
     LoadMany(22);
     // Behind the seventh row five lines are left to the twip.
-    printer.Height = 11640 + 1200;
+    printer.ShortSide = 11640 + 1200;
     Print();
     EXPECT_EQ(printer.Find(u"Shop 22"_s).page, 1);
     printer.Texts.clear();
-    printer.Height -= 1;
+    printer.ShortSide -= 1;
     Print();
     EXPECT_EQ(printer.Find(u"Shop 22"_s).page, 2);
 }

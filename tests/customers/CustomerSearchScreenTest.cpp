@@ -215,6 +215,28 @@ TEST_F(CustomerSearchScreen, EmptyTextIsRefused) {
     EXPECT_EQ(Focused(), u"txtSearchfor"_s);
 }
 
+TEST_F(CustomerSearchScreen, WildcardsAndQuotesThatAreTypedAreSearchedAsTheyStand) {
+    WriteCustomers({SampleCustomer{}, SampleCustomer{.account = "2", .businessName = "A*B \"C\"?"},
+                    SampleCustomer{.account = "3", .businessName = "It's 100% [new] \\d+"}});
+    Open(7);
+    const std::pair<QString, QString> texts[] = {
+        {u"*"_s, u"2"_s},  {u"?"_s, u"2"_s},     {u"\"c\""_s, u"2"_s}, {u"'"_s, u"3"_s},
+        {u"0%"_s, u"3"_s}, {u"[new]"_s, u"3"_s}, {u"\\d+"_s, u"3"_s}};
+    for (const auto& [text, account] : texts) {
+        Click(screen, u"Command1(0)"_s);
+        Type(SearchText(), text);
+        Press(SearchText(), Qt::Key_Return);
+        EXPECT_EQ(Shown(0), account) << text.toStdString();
+    }
+    for (const QString& text : {u"A*C"_s, u"A?B"_s, u"[a-z]"_s, u"%"_s + u"%"_s, u"' OR '"_s}) {
+        Click(screen, u"Command1(0)"_s);
+        Type(SearchText(), text);
+        user.ExpectMessage(nobody, nobodyTitle);
+        Press(SearchText(), Qt::Key_Return);
+        user.ExpectNothingLeft();
+    }
+}
+
 TEST_F(CustomerSearchScreen, PastedTextOfTenThousandCharactersAndLineBreaksFindsNobody) {
     OpenSearch(7);
     QApplication::clipboard()->setText(QString(10'000, u'*') + u"\n\"'"_s);
@@ -238,14 +260,17 @@ TEST_F(CustomerSearchScreen, NobodyFoundLeavesTheScreenBehindTheMenu) {
     EXPECT_EQ(office.deliveryCustomer.AccountNumber, QString()) << "no one is handed over";
 }
 
-TEST_F(CustomerSearchScreen, NobodyFoundForADeliveryLeavesTheMenuAlone) {
+TEST_F(CustomerSearchScreen, NobodyFoundForADeliveryLeavesTheScreenBehindTheDeliveryScreen) {
     OpenSearch(5);
     Type(SearchText(), u"no such name"_s);
     user.ExpectMessage(nobody, nobodyTitle);
     Click(screen, u"cmdStartSearch"_s);
+    EXPECT_TRUE(IsShown(ScreenName::frmDelivery));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(screens.Find(ScreenName::frmDelivery)));
     EXPECT_FALSE(IsShown(ScreenName::frmStartup));
     EXPECT_TRUE(IsShown(screen));
     EXPECT_TRUE(Text(0)->isVisible());
+    EXPECT_EQ(office.deliveryCustomer.AccountNumber, QString()) << "no one is handed over";
 }
 
 TEST_F(CustomerSearchScreen, NobodyFoundWithAnyOtherMenuChoiceStays) {
@@ -298,6 +323,20 @@ TEST_F(CustomerSearchScreen, LocateListsAllCustomersWithAPrintButton) {
     EXPECT_EQ(Cell(2, 0), u"Mr/Mrs Ann Lee"_s);
     EXPECT_EQ(Focused(), u"fgCustomersFound"_s);
     EXPECT_FALSE(Text(0)->isVisible());
+}
+
+TEST_F(CustomerSearchScreen, NameIsTheColumnThatTakesWhatIsLeft) {
+    OpenList();
+    QHeaderView* header = FoundGrid()->horizontalHeader();
+    EXPECT_EQ(header->sectionResizeMode(0), QHeaderView::Stretch);
+    EXPECT_EQ(header->length(), FoundGrid()->viewport()->width());
+    // A width that the operator has given to the record number is not the grid's to fit.
+    const int wide = header->sectionSize(2) + 40;
+    QTest::mousePress(Control(u"cmdRetry"_s), Qt::LeftButton);
+    header->resizeSection(2, wide);
+    QTest::mouseRelease(Control(u"cmdRetry"_s), Qt::LeftButton, Qt::NoModifier, {-5, -5});
+    FoundGrid()->FitColumns();
+    EXPECT_EQ(header->sectionSize(2), wide);
 }
 
 TEST_F(CustomerSearchScreen, MenuEntryListsAllCustomers) {

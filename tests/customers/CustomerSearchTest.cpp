@@ -55,10 +55,21 @@ protected:
         search.txtSearchfor = text;
         search.cmdStartSearch_Click();
     }
-    /// A search that brings up no record and no message.
-    int Find(const QString& text, SearchField field = SearchField::BusinessName) {
+    /// A search for a text in capitals finds those records, or tells that there are none.
+    void ExpectFound(const QString& text, const QStringList& records,
+                     SearchField field = SearchField::BusinessName) {
         int foundCount = -1;
-        search.FindCustomers(field, text, true, foundCount);
+        if (records.isEmpty())
+            user.ExpectMessage(nobody, nobodyTitle);
+        search.FindCustomers(field, text, false, foundCount);
+        user.ExpectNothingLeft();
+        EXPECT_EQ(foundCount, records.size()) << text.toStdString();
+        EXPECT_EQ(RecordsFound(), records) << text.toStdString();
+    }
+    /// The rows of the list of all.
+    int ListAll() {
+        int foundCount = -1;
+        search.FindCustomers(SearchField::All, u"All"_s, true, foundCount);
         return foundCount;
     }
     QStringList Row(int row) const {
@@ -86,8 +97,8 @@ TEST_F(CustomerSearchTest, EachOptionSearchesItsField) {
     LoadWith(OneForEachField());
     for (int option = 0; option <= 8; ++option) {
         const auto field = SearchField(option);
-        EXPECT_EQ(Find(field == SearchField::State ? u"XY"_s : u"XYZ"_s, field), 1) << option;
-        EXPECT_EQ(RecordsFound(), QStringList{QString::number(option + 1)}) << option;
+        ExpectFound(field == SearchField::State ? u"XY"_s : u"XYZ"_s, {QString::number(option + 1)},
+                    field);
     }
 }
 
@@ -101,7 +112,7 @@ TEST_F(CustomerSearchTest, OtherFieldsOfTheRecordAreNotSearched) {
     customer.firstName = "XYZ";
     LoadWith({customer});
     for (int option = 0; option <= 8; ++option)
-        EXPECT_EQ(Find(u"XYZ"_s, SearchField(option)), 0) << option;
+        ExpectFound(u"XYZ"_s, {}, SearchField(option));
 }
 
 TEST_F(CustomerSearchTest, TextMatchesInTheMiddleOfAWordWhateverItsCase) {
@@ -112,8 +123,9 @@ TEST_F(CustomerSearchTest, TextMatchesInTheMiddleOfAWordWhateverItsCase) {
 
 TEST_F(CustomerSearchTest, FieldIsComparedByteByByteOnceBothAreInCapitals) {
     LoadTwoGroceries();
-    EXPECT_EQ(Find(u"GROCERY"_s), 2);
-    EXPECT_EQ(Find(u"grocery"_s), 0) << "a text that is not in capitals occurs nowhere";
+    ExpectFound(u"GROCERY"_s, {u"2"_s, u"3"_s});
+    // A text that is not in capitals occurs nowhere.
+    ExpectFound(u"grocery"_s, {});
 }
 
 TEST_F(CustomerSearchTest, AccentedLettersMatchTheirCapitals) {
@@ -139,6 +151,27 @@ TEST_F(CustomerSearchTest, CharacterThatNoRecordCanHoldIsNotFoundAsAQuestionMark
     user.ExpectMessage(nobody, nobodyTitle);
     SearchFor(u"\u4e2d"_s);
     EXPECT_EQ(customers.CurrentRecord, 1);
+}
+
+TEST_F(CustomerSearchTest, HundredsOfCustomersAreFoundWithTheirOwnTexts) {
+    QList<SampleCustomer> records;
+    for (int number = 1; number <= 300; ++number)
+        records += number % 2 == 0
+                       ? SampleCustomer{.businessName = "Shop " + QByteArray::number(number),
+                                        .phone = QByteArray::number(number)}
+                       : Person("Lee " + QByteArray::number(number), "Ann", "1");
+    LoadWith(records);
+    QStringList all;
+    for (int number = 1; number <= 300; ++number)
+        all += QString::number(number);
+    ExpectFound(u"SPRING"_s, all, SearchField::City);
+    for (const int number : {1, 127, 129, 299})
+        EXPECT_EQ(Row(number), (QStringList{u"Ann Lee %1"_s.arg(number), u"217-555-0199"_s,
+                                            QString::number(number)}));
+    for (const int number : {2, 128, 256, 300})
+        EXPECT_EQ(Row(number), (QStringList{u"Shop %1"_s.arg(number), QString::number(number),
+                                            QString::number(number)}));
+    ExpectFound(u"SHOP 30"_s, {u"30"_s, u"300"_s});
 }
 
 TEST_F(CustomerSearchTest, WildcardsAndQuotesAreCharactersLikeOthers) {
@@ -170,39 +203,41 @@ TEST_F(CustomerSearchTest, TextOfBlanksOccursInEveryField) {
 
 TEST_F(CustomerSearchTest, FieldOfNulCharactersHoldsNothing) {
     LoadBytes(SampleCustomer{}.Bytes() + QByteArray(328, '\0'), 2);
-    EXPECT_EQ(Find(u"CORNER"_s), 1);
-    EXPECT_EQ(Find(u"All"_s, SearchField::All), 2);
+    ExpectFound(u"CORNER"_s, {u"1"_s});
+    EXPECT_EQ(ListAll(), 2);
     EXPECT_EQ(Row(2), (QStringList{QString(), QString(), u"2"_s}));
 }
 
 TEST_F(CustomerSearchTest, RecordThatIsCutShortIsReadAsFarAsItGoes) {
     const QByteArray cut = SampleCustomer{.businessName = "Anvil Works"}.Bytes().left(210);
     LoadBytes(SampleCustomer{}.Bytes() + cut, 2);
-    EXPECT_EQ(Find(u"ANVIL"_s), 1);
-    EXPECT_EQ(Find(u"All"_s, SearchField::All), 2);
+    ExpectFound(u"ANVIL"_s, {u"2"_s});
+    LoadBytes(SampleCustomer{}.Bytes() + cut, 2);
+    EXPECT_EQ(ListAll(), 2);
     EXPECT_EQ(Row(2), (QStringList{QString(), u"217"_s, u"2"_s})) << "without its type a person";
 }
 
 TEST_F(CustomerSearchTest, CustomersOutOfReachAreNotFound) {
     LoadThree();
     customers.CustomerCount = 2;
-    EXPECT_EQ(Find(u"ANVIL"_s), 0);
-    EXPECT_EQ(Find(u"All"_s, SearchField::All), 2);
+    ExpectFound(u"ANVIL"_s, {});
+    EXPECT_EQ(ListAll(), 2);
 }
 
 TEST_F(CustomerSearchTest, AccountThatIsStillBeingEnteredIsNotFound) {
     LoadThree();
     customers.AddNewCustomer();
     ASSERT_EQ(customers.CustomerCount, 4);
-    EXPECT_EQ(Find(u"All"_s, SearchField::All), 3);
-    EXPECT_EQ(Find(u"'"_s, SearchField::LastName), 0);
+    EXPECT_EQ(ListAll(), 3);
+    // Nothing occurs in every field.
+    ExpectFound(QString(), {u"1"_s, u"2"_s, u"3"_s}, SearchField::LastName);
 }
 
 TEST_F(CustomerSearchTest, SearchChangesNoFile) {
     LoadThree();
     const auto before = folder.Contents();
     SearchFor(u"r"_s);
-    Find(u"All"_s, SearchField::All);
+    ListAll();
     EXPECT_EQ(folder.Contents(), before);
     EXPECT_EQ(folder.Everything().filter(u"TMP"_s), QStringList());
 }
@@ -231,6 +266,20 @@ TEST_F(CustomerSearchTest, GridShowsNameTelephoneAndRecordNumber) {
     EXPECT_EQ(search.fgCustomersFound.CurrentRow(), 1);
 }
 
+TEST_F(CustomerSearchTest, TelephoneAndRecordNumberStandInTheMiddleOfTheirColumns) {
+    LoadThree();
+    search.mnuPrint_Click();
+    const auto alignment = [this](int column) {
+        const GridModel& grid = search.fgCustomersFound;
+        EXPECT_EQ(grid.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole),
+                  grid.data(grid.index(0, column), Qt::TextAlignmentRole));
+        return grid.data(grid.index(0, column), Qt::TextAlignmentRole).toInt();
+    };
+    EXPECT_EQ(alignment(0), int(Qt::AlignLeft | Qt::AlignVCenter));
+    EXPECT_EQ(alignment(1), int(Qt::AlignHCenter | Qt::AlignVCenter));
+    EXPECT_EQ(alignment(2), int(Qt::AlignHCenter | Qt::AlignVCenter));
+}
+
 TEST_F(CustomerSearchTest, SeveralCustomersBringTheGridToTheFront) {
     LoadTwoGroceries();
     search.SearchByCriteria();
@@ -253,6 +302,15 @@ TEST_F(CustomerSearchTest, TheOnlyCustomerFoundShowsAtOnceWithoutTheGrid) {
     EXPECT_FALSE(customers.fraSearchVisible);
     EXPECT_FALSE(customers.fraCustomersFoundVisible);
     EXPECT_EQ(customers.Focus, FocusOn::SelectButton);
+}
+
+TEST_F(CustomerSearchTest, TheOnlyCustomerFoundComesInFrontOfAListThatWasThere) {
+    LoadThree();
+    search.mnuPrint_Click();
+    ASSERT_TRUE(customers.fraCustomersFoundVisible);
+    ExpectFound(u"ANVIL"_s, {u"3"_s});
+    EXPECT_FALSE(customers.fraCustomersFoundVisible);
+    EXPECT_EQ(customers.CurrentRecord, 3);
 }
 
 TEST_F(CustomerSearchTest, SearchAndItsHitLeaveContractsAndCyclesAsTheyAre) {
@@ -300,12 +358,24 @@ TEST_F(CustomerSearchTest, SearchStaysInFrontOfItsMessage) {
 
 TEST_F(CustomerSearchTest, ListModeOnlyFillsTheGrid) {
     LoadThree();
-    EXPECT_EQ(Find(u"ANVIL"_s), 1);
-    EXPECT_EQ(Find(u"NO SUCH NAME"_s), 0);
-    EXPECT_EQ(Find(u"R"_s), 2);
+    EXPECT_EQ(ListAll(), 3);
+    EXPECT_EQ(RecordsFound(), (QStringList{u"1"_s, u"2"_s, u"3"_s}));
     EXPECT_EQ(customers.CurrentRecord, 1);
     EXPECT_FALSE(customers.fraCustomersFoundVisible);
     EXPECT_FALSE(search.HasFoundNobody);
+}
+
+TEST_F(CustomerSearchTest, ListModeWithAFieldAddsNoRowsAndTellsNothing) {
+    LoadThree();
+    for (const QString& text : {u"ANVIL"_s, u"R"_s, u"NO SUCH NAME"_s}) {
+        int foundCount = -1;
+        search.FindCustomers(SearchField::BusinessName, text, true, foundCount);
+        EXPECT_EQ(foundCount, 0) << text.toStdString();
+        EXPECT_EQ(RecordsFound(), QStringList()) << text.toStdString();
+        EXPECT_FALSE(search.HasFoundNobody);
+    }
+    EXPECT_EQ(customers.CurrentRecord, 1);
+    EXPECT_FALSE(customers.fraCustomersFoundVisible);
 }
 
 TEST_F(CustomerSearchTest, EmptyTextIsRefused) {
@@ -456,6 +526,18 @@ TEST_F(CustomerSearchTest, ListWithoutACustomerFileOnlyBeeps) {
     EXPECT_EQ(user.Beeps, 2);
     EXPECT_FALSE(customers.fraCustomersFoundVisible);
     EXPECT_EQ(folder.Everything(), before);
+}
+
+TEST_F(CustomerSearchTest, LocateWithoutACustomerFileHidesWhatStandsOverTheRecord) {
+    user.ExpectMessage(u"Your Customer File is Empty\nCreate your First Customer Now"_s,
+                       u"Create Customers"_s);
+    customers.Load();
+    customers.fraSearchVisible = true;
+    customers.Name = NamePlace::AccountList;
+    search.LocateInList();
+    EXPECT_EQ(user.Beeps, 1);
+    EXPECT_FALSE(customers.fraSearchVisible);
+    EXPECT_EQ(customers.Name, NamePlace::PersonalName);
 }
 
 TEST_F(CustomerSearchTest, ListWithoutACustomerFileBeepsWithSoundsOffToo) {

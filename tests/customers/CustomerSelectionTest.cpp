@@ -874,6 +874,16 @@ TEST_F(CustomerSelectionTest, QuartersBelowFourCustomersOnlySave) {
     }
 }
 
+TEST_F(CustomerSelectionTest, QuartersOfFourCustomersLandOnOneTwoAndThree) {
+    LoadMany(4);
+    customers.MoveTo(Move::Last);
+    for (const auto& [move, record] :
+         {std::pair{Move::Quarter, 1}, {Move::Half, 2}, {Move::ThreeQuarters, 3}}) {
+        customers.MoveTo(move);
+        EXPECT_EQ(customers.CurrentRecord, record);
+    }
+}
+
 TEST_F(CustomerSelectionTest, MovingOnSavesTheRecord) {
     LoadThree();
     Text(CustomerText::Address1) = u"1 New Road"_s;
@@ -890,6 +900,28 @@ TEST_F(CustomerSelectionTest, NameListTakesThePlaceOfTheName) {
     EXPECT_EQ(customers.Focus, FocusOn::AccountList);
     customers.ShowRecordArea();
     EXPECT_EQ(customers.Name, NamePlace::BusinessName);
+}
+
+TEST_F(CustomerSelectionTest, RecordComesBackFromTheNameListByTheTypeOnTheScreen) {
+    LoadThree();
+    customers.ToggleAccountType();
+    customers.FindInNameList();
+    customers.Focus = FocusOn::Nothing;
+    customers.fraAux.clear();
+    customers.ShowRecordArea();
+    EXPECT_EQ(customers.Name, NamePlace::PersonalName);
+    EXPECT_EQ(customers.Focus, FocusOn::AcctNo);
+    EXPECT_EQ(customers.fraAux, u"Data for "_s) << "no personal name is in the record";
+}
+
+TEST_F(CustomerSelectionTest, CaptionsBehindAListAreThoseOfTheRecordReadLast) {
+    // One buffer serves every reader, and the caption is taken from it. It is meant so.
+    LoadThree();
+    office.customerSearch.mnuPrint_Click();
+    customers.ShowRecordArea();
+    EXPECT_EQ(customers.CurrentRecord, 1);
+    EXPECT_EQ(Text(CustomerText::BusinessName), u"Corner Grocery"_s);
+    EXPECT_EQ(customers.fraAux, u"Data for Anvil Works"_s);
 }
 
 TEST_F(CustomerSelectionTest, EmptyNameListDoesNotShow) {
@@ -925,6 +957,36 @@ TEST_F(CustomerSelectionTest, TypedNameIsFoundWithoutRegardToCaseAndBlanks) {
     customers.FindInNameList();
     customers.cboAccounts_LostFocus(u" LEE, ann "_s);
     EXPECT_EQ(customers.CurrentRecord, 2);
+}
+
+TEST_F(CustomerSelectionTest, BlanksOfAListedNameDoNotCountEither) {
+    // Without a first name the entry is "Lee, ".
+    LoadWith({SampleCustomer{}, Person("Lee", "", "1002")});
+    customers.FindInNameList();
+    customers.cboAccounts_LostFocus(u"lee,"_s);
+    EXPECT_EQ(customers.CurrentRecord, 2);
+}
+
+TEST_F(CustomerSelectionTest, SharpSIsNoDoubleS) {
+    LoadWith({SampleCustomer{}, SampleCustomer{.account = "1", .businessName = "Strasse"},
+              SampleCustomer{.account = "2",
+                             .businessName = "Stra\xdf"
+                                             "e"}});
+    customers.FindInNameList();
+    customers.cboAccounts_LostFocus(u"stra\u00dfe"_s);
+    EXPECT_EQ(customers.CurrentRecord, 3);
+    customers.FindInNameList();
+    customers.cboAccounts_LostFocus(u"STRASSE"_s);
+    EXPECT_EQ(customers.CurrentRecord, 2);
+}
+
+TEST_F(CustomerSelectionTest, NameThatNoRecordCanHoldIsNotFoundAsAQuestionMark) {
+    LoadWith({SampleCustomer{.account = "1", .businessName = "Corner"},
+              SampleCustomer{.account = "2", .businessName = "?"}});
+    customers.FindInNameList();
+    user.ExpectMessage(u"Name Not Found\nFirst Accont is Displayed"_s);
+    customers.cboAccounts_LostFocus(u"\u4e2d"_s);
+    EXPECT_EQ(customers.CurrentRecord, 1);
 }
 
 TEST_F(CustomerSelectionTest, UnknownNameShowsTheFirstRecord) {

@@ -437,6 +437,23 @@ TEST_F(CustomerScreen, FindShowsTheListInThePlaceOfTheName) {
     EXPECT_TRUE(Text(1)->isVisible());
 }
 
+TEST_F(CustomerScreen, FindHidesThePartsOfAPersonsNameAndSelectBringsThemBack) {
+    OpenThree();
+    Click(screen, u"cmdNav(2)"_s);
+    const QString parts[] = {u"cboTitle"_s, u"txtCustomer(8)"_s, u"txtCustomer(9)"_s,
+                             u"txtCustomer(10)"_s};
+    Click(screen, u"Command1(1)"_s);
+    EXPECT_TRUE(Control(u"cboAccounts"_s)->isVisible());
+    for (const QString& part : parts)
+        EXPECT_FALSE(Control(part)->isVisible()) << part.toStdString();
+    Click(screen, u"Command1(2)"_s);
+    EXPECT_FALSE(Control(u"cboAccounts"_s)->isVisible());
+    EXPECT_FALSE(Text(1)->isVisible());
+    for (const QString& part : parts)
+        EXPECT_TRUE(Control(part)->isVisible()) << part.toStdString();
+    EXPECT_EQ(Focused(), u"txtCustomer(0)"_s);
+}
+
 TEST_F(CustomerScreen, FirstLettersBringTheWholeNameWithTheRestSelected) {
     OpenThree();
     Click(screen, u"Command1(1)"_s);
@@ -522,11 +539,39 @@ TEST_F(CustomerScreen, UnknownNameShowsTheFirstRecord) {
     EXPECT_FALSE(accounts->isVisible());
 }
 
+TEST_F(CustomerScreen, TypedNameIsChosenByAClickIntoAnotherField) {
+    OpenThree();
+    Click(screen, u"Command1(1)"_s);
+    Type(Combo(u"cboAccounts"_s), u"le"_s);
+    QTest::mouseClick(Text(2), Qt::LeftButton);
+    EXPECT_EQ(Shown(0), u"1002"_s);
+    EXPECT_FALSE(Combo(u"cboAccounts"_s)->isVisible());
+}
+
+TEST_F(CustomerScreen, UnknownNameShowsTheFirstRecordAtAClickIntoAnotherField) {
+    OpenThree();
+    Click(screen, u"cmdNav(3)"_s);
+    Click(screen, u"Command1(1)"_s);
+    Type(Combo(u"cboAccounts"_s), u"Nobody"_s);
+    user.ExpectMessage(u"Name Not Found\nFirst Accont is Displayed"_s);
+    QTest::mouseClick(Text(2), Qt::LeftButton);
+    EXPECT_EQ(Shown(0), u"4471"_s);
+    EXPECT_FALSE(Combo(u"cboAccounts"_s)->isVisible());
+}
+
+TEST_F(CustomerScreen, TypedNameIsChosenBeforeTheButtonThatIsClicked) {
+    OpenThree();
+    Click(screen, u"Command1(1)"_s);
+    Type(Combo(u"cboAccounts"_s), u"le"_s);
+    Click(screen, u"cmdNav(2)"_s);
+    EXPECT_EQ(Shown(0), u"77"_s) << "the next one behind the name";
+}
+
 TEST_F(CustomerScreen, NameChosenWithTheMouseShowsItsRecord) {
     OpenThree();
     Click(screen, u"Command1(1)"_s);
-    ChooseFromPopup(2);
-    EXPECT_EQ(Shown(0), u"1002"_s);
+    ChooseFromPopup(0);
+    EXPECT_EQ(Shown(0), u"77"_s) << "the first name is that of the third record";
     EXPECT_FALSE(Combo(u"cboAccounts"_s)->isVisible());
 }
 

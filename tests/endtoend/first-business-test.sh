@@ -520,7 +520,6 @@ ExpectFolder() {
 }
 
 vehiclesScreen='Vehicle Creation Screen'
-customersScreen='Customer Selection       '
 
 expected=''
 menuWindow=''

@@ -18,6 +18,8 @@ sampleMaker=$2
 shift 2
 
 productsScreen='Inventoried Items'
+# shellcheck disable=SC2034  # for the tests
+customersScreen='Customer Selection       '
 recurringQuestion='Delete a Recurring Slip'
 # A message box without a title of its own has the program's.
 notice=$titleScreen
@@ -229,6 +231,18 @@ ReplaceText() {
     Type "$1"
 }
 
+# Click WINDOW X Y [BUTTON]: at that place of the window.
+Click() {
+    xdotool mousemove --window "$1" "$2" "$3" click "${4:-1}"
+    MoveMouseAway
+}
+
+# A button pressed by its letter works when it has come up again.
+PressButton() {
+    Press "$1" "$2"
+    sleep 0.4
+}
+
 # AnswerBox TITLE KEY: the message of that title, over whatever screen, goes at that key.
 AnswerBox() {
     local window
@@ -316,6 +330,34 @@ Snapshot() {
 # ExpectSame WHAT EXPECTED ACTUAL: both are files.
 ExpectSame() {
     diff --unified=1 --label expected --label actual "$2" "$3" >&2 || FailDay "$1 differs."
+}
+
+# ExpectBusiness FOLDER WHEN: the data folder is the same as that one.
+ExpectBusiness() {
+    Snapshot "$1" >"$dayFolder/expected.txt"
+    Snapshot "$business" >"$dayFolder/actual.txt"
+    ExpectSame "the data folder $2" "$dayFolder/expected.txt" "$dayFolder/actual.txt"
+}
+
+# BackUpByHand FOLDER NAME...: what the exit copies of the sample business, and these files.
+BackUpByHand() {
+    local folder=$1 name
+    shift
+    for name in CustomerData MyBusinessData Phone PrintColors "$@"; do
+        cp "$folder/$name.txt" "$folder/Backup"
+    done
+}
+
+# WaitForPaper NAME: the PDF of that name in the folder of the documents is whole, and is printed.
+WaitForPaper() {
+    local paper="$dayFolder/Tessel Delivery/$1" i
+    for ((i = 0; i < 10 * secondsToWait; i++)); do
+        [[ $(tail -c 6 "$paper" 2>/dev/null) != *%%EOF* ]] || break
+        ProgramRuns || FailDay "the program ended before it printed $1."
+        sleep 0.1
+    done
+    [[ -e $paper ]] || FailDay "$1 was not printed."
+    printf '%s\n' "$paper"
 }
 
 # The lines of a PDF from top to bottom, each from left to right with single blanks, so that the

@@ -69,19 +69,6 @@ ExpectPersonalName() {
         conv=notrunc status=none
 }
 
-# ExpectFolder WHEN: everything in the data folder, with the files expected so far.
-ExpectFolder() {
-    Snapshot "$expected" >"$dayFolder/expected.txt"
-    Snapshot "$business" >"$dayFolder/actual.txt"
-    ExpectSame "the data folder $1" "$dayFolder/expected.txt" "$dayFolder/actual.txt"
-}
-
-# A button pressed by its letter works when it has come up again.
-PressButton() {
-    Press "$1" "$2"
-    sleep 0.4
-}
-
 # StartSlip LETTERS: for the customer whose name begins so. The keys are in the attention line.
 StartSlip() {
     local customers
@@ -182,15 +169,10 @@ PrintDay() {
 }
 
 LeaveWithBackup() {
-    local name
     LeaveProgram "$menuWindow"
-    # Of the exit's list, what the sample business has.
-    for name in CustomerData MyBusinessData Phone PrintColors; do
-        cp "$expected/$name.txt" "$expected/Backup"
-    done
+    BackUpByHand "$expected"
 }
 
-customersScreen='Customer Selection       '
 slipScreen='Delivery Creation'
 menuWindow=''
 slipWindow=''
@@ -210,18 +192,18 @@ WriteRecurringSlip
 ExpectRecurringHeader "$expected/TesselDelivery" "$shipDate"
 ExpectRecurringItems "$expected/TesselDelivery"
 SetTextFile "$expected/NQDeliveryNo.txt" 20260062
-ExpectFolder 'after the recurring slip'
+ExpectBusiness "$expected" 'after the recurring slip'
 WriteOneTimeSlip
 ExpectOneTimeSlip "$expected/TesselDelivery"
 ExpectPersonalName "$expected"
 SetTextFile "$expected/NQDeliveryNo.txt" 20260063
-ExpectFolder 'after the one-time slip'
+ExpectBusiness "$expected" 'after the one-time slip'
 PrintDay
 # The board shows the first invoice number of the year, which begins the counter.
 SetTextFile "$expected/NXInvoiceNo.txt" 20260001
-ExpectFolder 'after the print'
+ExpectBusiness "$expected" 'after the print'
 LeaveWithBackup
-ExpectFolder 'after the exit'
+ExpectBusiness "$expected" 'after the exit'
 
 SetPlayDate "$laterDay"
 StartPlay "$business"
@@ -235,7 +217,7 @@ rm "$expected"/TesselDelivery/{Deliveries,DeliveryItems}/$oneTimeSlip.txt
 Continue
 # The start writes this file anew, and its safety copy goes until the next exit.
 rm "$expected/Backup/Phone.txt"
-ExpectFolder 'after the start of the later day'
+ExpectBusiness "$expected" 'after the start of the later day'
 menuWindow=$(WaitForWindow "$menuScreen")
 LeaveWithBackup
-ExpectFolder 'after the second exit'
+ExpectBusiness "$expected" 'after the second exit'

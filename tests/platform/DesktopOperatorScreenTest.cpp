@@ -85,6 +85,17 @@ protected:
 
 } // namespace
 
+TEST(MessageBoxTest, ShortMessageIsWiderThanItsTitle) {
+    DesktopOperator user;
+    for (const Buttons buttons : {Buttons::Ok, Buttons::YesNo, Buttons::OkCancel}) {
+        AtTheDialog<QMessageBox>([](QMessageBox& box) {
+            const int title = box.fontMetrics().horizontalAdvance(box.windowTitle());
+            EXPECT_GE(box.width(), title + 8 * box.fontMetrics().height());
+        });
+        user.MsgBox(u"Sure?"_s, buttons, u"Delete a Recurring Slip"_s);
+    }
+}
+
 TEST_F(FileDialogTest, FirstFilterShowsFoldersAndThePicturesItNames) {
     AtTheDialog<QFileDialog>([](QFileDialog& dialog) {
         const auto* types = dialog.findChild<QComboBox*>(u"fileTypeCombo"_s);

@@ -57,6 +57,40 @@ TEST(GridModel, CellOutsideTheGridIsASubscriptFailure) {
     EXPECT_EQ(FailureOf([&] { grid.RemoveRow(0); }).Kind(), FailureKind::Subscript);
 }
 
+TEST(GridModel, RowTakenOutLeavesTheOthersWhole) {
+    GridModel grid({u"A"_s, u"B"_s});
+    grid.SetRows(4);
+    for (int row = 1; row <= 3; ++row) {
+        grid.SetText(row, 0, QString::number(row));
+        grid.SetText(row, 1, QString(row, u'x'));
+    }
+    grid.RemoveRow(2);
+    ASSERT_EQ(grid.Rows(), 3);
+    EXPECT_EQ(grid.Text(0, 1), u"B"_s);
+    EXPECT_EQ(grid.Text(1, 0), u"1"_s);
+    EXPECT_EQ(grid.Text(1, 1), u"x"_s);
+    EXPECT_EQ(grid.Text(2, 0), u"3"_s);
+    EXPECT_EQ(grid.Text(2, 1), u"xxx"_s);
+    grid.SetRows(4);
+    EXPECT_EQ(grid.Text(2, 1), u"xxx"_s);
+    EXPECT_EQ(grid.Text(3, 0), QString());
+}
+
+TEST(GridModel, SortLeavesTheHeadingAndTheCurrentCellInTheirPlaces) {
+    GridModel grid({u"Z"_s, u"A"_s});
+    grid.SetRows(3);
+    grid.SetText(1, 0, u"m"_s);
+    grid.SetText(2, 0, u"k"_s);
+    grid.SetCurrent(2, 1);
+    grid.SortAsText(0);
+    EXPECT_EQ(grid.Text(0, 0), u"Z"_s);
+    EXPECT_EQ(grid.Text(0, 1), u"A"_s);
+    EXPECT_EQ(grid.Text(1, 0), u"k"_s);
+    EXPECT_EQ(grid.Text(2, 0), u"m"_s);
+    EXPECT_EQ(grid.CurrentRow(), 2);
+    EXPECT_EQ(grid.CurrentColumn(), 1);
+}
+
 TEST(GridModel, EqualRowsKeepTheirOrderInASort) {
     GridModel grid({u"Key"_s, u"Name"_s});
     grid.SetRows(4);

@@ -1,6 +1,8 @@
 #include "platform/MemoBox.h"
 #include "support/TextOutput.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QTest>
 #include <QTextCursor>
@@ -38,6 +40,16 @@ TEST_F(MemoBoxTest, LinesArePartedByALineFeed) {
     EXPECT_EQ(box.Text(), u"one\ntwo"_s);
 }
 
+TEST_F(MemoBoxTest, ShiftWithEnterAndLineSeparatorsPartLinesLikeEnter) {
+    box.setFocus();
+    QTest::keyClicks(&box, u"one"_s);
+    QTest::keyClick(&box, Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClicks(&box, u"two"_s);
+    EXPECT_EQ(box.Text(), u"one\ntwo"_s);
+    box.insertPlainText(u"\u2028three\u2029four"_s);
+    EXPECT_EQ(box.Text(), u"one\ntwo\nthree\nfour"_s);
+}
+
 TEST_F(MemoBoxTest, TextShownIsTheTextGivenBack) {
     for (const QString& text : {QString(), u"\n"_s, u"one\n\ntwo\n"_s, u"5\u00a0€\ttab  "_s}) {
         box.Show(text);
@@ -52,6 +64,28 @@ TEST_F(MemoBoxTest, ShowingTheSameTextLeavesTheCaret) {
     EXPECT_EQ(box.textCursor().position(), 7);
     box.Show(u"one"_s);
     EXPECT_EQ(box.textCursor().position(), 0);
+}
+
+TEST_F(MemoBoxTest, MegabyteWithoutABlankIsBrokenAnywhereAndWordsBetweenThem) {
+    const QString endless(1'000'000, u'x');
+    box.Show(endless);
+    EXPECT_EQ(box.wordWrapMode(), QTextOption::WrapAnywhere);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(box.Text(), endless);
+    box.Show(u"words "_s.repeated(10'000));
+    EXPECT_EQ(box.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+    EXPECT_EQ(box.Text().size(), 60'000);
+}
+
+TEST_F(MemoBoxTest, PastedMegabyteWithoutABlankIsTaken) {
+    QApplication::clipboard()->setText(QString(1'000'000, u'x'));
+    box.Show(u"before "_s);
+    box.setFocus();
+    box.moveCursor(QTextCursor::End);
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text().size(), 1'000'007);
+    QTest::keyClick(&box, Qt::Key_Backspace);
+    EXPECT_EQ(box.Text().size(), 1'000'006);
 }
 
 TEST_F(MemoBoxTest, TabGoesOnToTheNextControl) {

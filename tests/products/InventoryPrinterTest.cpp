@@ -36,18 +36,11 @@ protected:
         Load(records);
     }
 
-    void LieDown() {
-        printer.Width = 15840;
-        printer.Height = 12240;
-    }
     void Print(InventoryKind kind) {
         user.ExpectPrinterDialog(3, PrintDestination{.Copies = 3});
         office.inventoryPrinter.PrintInventory(kind);
     }
-    void PrintReport() {
-        LieDown();
-        Print(InventoryKind::Report);
-    }
+    void PrintReport() { Print(InventoryKind::Report); }
 
     /// "page: y" of each item's description.
     QStringList PlacesOfItems() const {
@@ -115,8 +108,8 @@ TEST_F(InventoryPrinterTest, FilteredGridPrintsOnlyThatCategoryInTheOrderOfTheGr
     items.ckCategory_Click(true);
     items.ReloadOrSort();
     PrintReport();
-    EXPECT_EQ(PlacesOfItems(), (QStringList{u"1: 3360"_s, u"1: 3600"_s}));
-    EXPECT_EQ(TimesPrinted(u"Item 2"_s), 0);
+    EXPECT_EQ(printer.DrawnTexts().filter(u"Item "_s),
+              (QStringList{u"1: 1440,3360 10 Item 1"_s, u"1: 1440,3600 10 Item 3"_s}));
 }
 
 TEST_F(InventoryPrinterTest, RowsStandInTheOrderOfTheGridWithoutTheFileBeingRead) {
@@ -178,6 +171,31 @@ TEST_F(InventoryPrinterTest, BusinessHeadingStandsOnEveryPageOfABusinessWithData
                      u"1: 1440,2376 10 Tax 99"_s, u"1: 6960,576 12 Inventory Report"_s,
                      u"1: 12960,576 10 Date 3/9/2026"_s}));
     EXPECT_TRUE(drawn.contains(u"2: 1440,936 10b Tessel Gravel"_s));
+}
+
+TEST_F(InventoryPrinterTest, BusinessHeadingStandsOnEveryPageOfEveryTallySheetToo) {
+    office.settings.BusinessData[0] = u"Tessel Gravel"_s;
+    folder.Write(u"MyBusinessData.txt"_s, "its lines are not read here");
+    LoadMany(41);
+    txtTally = {u"Shed"_s, u"Yard"_s};
+    Print(InventoryKind::TallySheet);
+    EXPECT_EQ(
+        printer.DrawnTexts().filter(u"Tessel Gravel"_s),
+        (QStringList{u"1: 1440,936 10b Tessel Gravel"_s, u"2: 1440,936 10b Tessel Gravel"_s,
+                     u"1: 1440,936 10b Tessel Gravel"_s, u"2: 1440,936 10b Tessel Gravel"_s}));
+    EXPECT_EQ(printer.Jobs, 2);
+}
+
+TEST_F(InventoryPrinterTest, NothingOfTheReportOrTheSheetsIsUnderlined) {
+    office.settings.BusinessData[0] = u"Tessel Gravel"_s;
+    folder.Write(u"MyBusinessData.txt"_s, "its lines are not read here");
+    LoadMany(41);
+    txtTally = {u"Shed"_s};
+    PrintReport();
+    Print(InventoryKind::TallySheet);
+    EXPECT_GT(printer.Texts.size(), 8U * 41);
+    for (const auto& text : printer.Texts)
+        EXPECT_FALSE(text.underline) << text.text.toStdString();
 }
 
 TEST_F(InventoryPrinterTest, WithoutTheFileOfTheBusinessThereIsNoBusinessHeading) {
@@ -280,6 +298,26 @@ TEST_F(InventoryPrinterTest, LocationPrintsOnEveryPageOfItsSheet) {
     EXPECT_EQ(printer.Jobs, 1);
 }
 
+TEST_F(InventoryPrinterTest, SheetCountsItsBlankLinesAnewOnEachPage) {
+    // The 7th row stands at 5,040, and five lines below it is the end of the paper exactly.
+    printer.LongSide = 5040 + 1200;
+    LoadMany(13);
+    txtTally = {u"Shed"_s};
+    Print(InventoryKind::TallySheet);
+    EXPECT_EQ(PlacesOfItems(),
+              (QStringList{u"1: 3360"_s, u"1: 3600"_s, u"1: 3840"_s, u"1: 4080"_s, u"1: 4320"_s,
+                           u"1: 4800"_s, u"1: 5040"_s, u"2: 3360"_s, u"2: 3600"_s, u"2: 3840"_s,
+                           u"2: 4080"_s, u"2: 4320"_s, u"2: 4800"_s}));
+}
+
+TEST_F(InventoryPrinterTest, LocationOfBlanksIsNotEmptyAndHasItsSheet) {
+    Load({});
+    txtTally = {u"  "_s};
+    Print(InventoryKind::TallySheet);
+    EXPECT_EQ(printer.Jobs, 1);
+    EXPECT_EQ(TimesPrinted(u"Location:   "_s), 1);
+}
+
 TEST_F(InventoryPrinterTest, SheetOfAnEmptyGridPrintsItsHeader) {
     Load({});
     txtTally = {u"Shed"_s};
@@ -319,7 +357,6 @@ TEST_F(InventoryPrinterTest, PrinterThatFailsInMidPageIsToldAndThePageThrownAway
     printer.FailingText = 12;
     user.ExpectPrinterDialog(3, PrintDestination{});
     user.ExpectMessage(u"A Print Error has occurred"_s, u"Print Error"_s);
-    LieDown();
     office.inventoryPrinter.PrintInventory(InventoryKind::Report);
     EXPECT_EQ(printer.Jobs, 0);
     EXPECT_EQ(printer.AbandonedJobs, 1);

@@ -5,7 +5,9 @@
 #include "support/ScreenTest.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QClipboard>
+#include <QComboBox>
 #include <QPushButton>
 
 #include <algorithm>
@@ -54,6 +56,10 @@ protected:
     }
     QWidget* Frame() { return Find<QWidget>(products, u"fraTallySheets"_s); }
     QWidget* Focus() const { return screens.Find(products)->focusWidget(); }
+    void Tick(const QString& box) {
+        QTest::mouseClick(Find<QCheckBox>(products, box), Qt::LeftButton, Qt::NoModifier, {8, 8});
+    }
+    QStringList PlacesOfItems() const { return printer.DrawnTexts().filter(u"Item "_s); }
     bool HasPrinted(const QString& wording) const {
         return std::any_of(printer.Texts.begin(), printer.Texts.end(),
                            [&](const auto& text) { return text.text == wording; });
@@ -65,9 +71,44 @@ TEST_F(InventoryPrintsScreen, ReportPrintsTheGridAsItStands) {
     user.ExpectPrinterDialog(3, PrintDestination{.Copies = 2});
     ClickButton(1);
     EXPECT_EQ(printer.Orientations, std::vector<Orientation>{Orientation::Landscape});
-    EXPECT_TRUE(HasPrinted(u"Gravel"_s));
-    EXPECT_TRUE(HasPrinted(u"Shovel"_s));
+    EXPECT_EQ(
+        printer.DrawnTexts().mid(10),
+        (QStringList{u"1: 1440,3360 10 Gravel"_s, u"1: 5260,3360 10 $1.00"_s,
+                     u"1: 6700,3360 10 $2.00"_s, u"1: 8396,3360 10 7"_s, u"1: 9580,3360 10 $1.50"_s,
+                     u"1: 11464,3360 10 12"_s, u"1: 12860,3360 10 5"_s, u"1: 14300,3360 10 2"_s,
+                     u"1: 1440,3600 10 Shovel"_s, u"1: 5260,3600 10 $1.00"_s,
+                     u"1: 6700,3600 10 $2.00"_s, u"1: 8396,3600 10 7"_s, u"1: 9580,3600 10 $1.50"_s,
+                     u"1: 11464,3600 10 12"_s, u"1: 12860,3600 10 5"_s, u"1: 14300,3600 10 2"_s}));
     EXPECT_EQ(printer.Destinations, std::vector<PrintDestination>{{.Copies = 2}});
+}
+
+TEST_F(InventoryPrintsScreen, ReportHasTheOrderThatTheGridHasBeenSortedIn) {
+    folder.Write(itemsFile, ItemBytes{.description = "Item b", .category = "1"}.Record() +
+                                ItemBytes{.description = "Item c", .category = "2"}.Record() +
+                                ItemBytes{.description = "Item a", .category = "3"}.Record());
+    Open();
+    Tick(u"ckByCategory"_s);
+    Find<QComboBox>(products, u"lstSortBy"_s)->setCurrentText(u"Description"_s);
+    ClickButton(2);
+    user.ExpectPrinterDialog(3, PrintDestination{});
+    ClickButton(1);
+    EXPECT_EQ(PlacesOfItems(),
+              (QStringList{u"1: 1440,3360 10 Item a"_s, u"1: 1440,3600 10 Item b"_s,
+                           u"1: 1440,3840 10 Item c"_s}));
+}
+
+TEST_F(InventoryPrintsScreen, ReportHasTheCategoryThatTheGridHasBeenReloadedWith) {
+    folder.Write(itemsFile, ItemBytes{.description = "Item b", .category = "Bulk"}.Record() +
+                                ItemBytes{.description = "Item c", .category = "Tools"}.Record() +
+                                ItemBytes{.description = "Item a", .category = "Bulk"}.Record());
+    Open();
+    Tick(u"ckCategory"_s);
+    Find<QComboBox>(products, u"cboCategory"_s)->setCurrentText(u"Bulk"_s);
+    ClickButton(2);
+    user.ExpectPrinterDialog(3, PrintDestination{});
+    ClickButton(1);
+    EXPECT_EQ(PlacesOfItems(),
+              (QStringList{u"1: 1440,3360 10 Item a"_s, u"1: 1440,3600 10 Item b"_s}));
 }
 
 TEST_F(InventoryPrintsScreen, ReportIsPrintedWithItsLetterToo) {

@@ -45,8 +45,6 @@ TEST_F(PrinterRoutinesTest, PreparingSetsTheDocumentFontInBlackAndLeavesItsSize)
 // At size 10 a character is 100 twips wide.
 
 TEST_F(PrinterRoutinesTest, PreparedLandscapePageIsCentredOnTheWidthOfAnUprightOne) {
-    printer.Width = 15840;
-    printer.Height = 12240;
     routines.PreparePrinter(Orientation::Landscape, false);
     printer.PrintCentred(u"abcd"_s);
     EXPECT_EQ(printer.Find(u"abcd"_s).x, 5920);
@@ -61,8 +59,6 @@ TEST_F(PrinterRoutinesTest, PreparedUprightPageIsCentredOnThePaper) {
 }
 
 TEST_F(PrinterRoutinesTest, PagesBehindThePreparedOneAreCentredAlike) {
-    printer.Width = 15840;
-    printer.Height = 12240;
     routines.PreparePrinter(Orientation::Landscape, false);
     printer.NewPage();
     printer.PrintCentred(u"abcd"_s);
@@ -70,8 +66,6 @@ TEST_F(PrinterRoutinesTest, PagesBehindThePreparedOneAreCentredAlike) {
 }
 
 TEST_F(PrinterRoutinesTest, PageThatIsOnlySetIsCentredOnItsOwnWidthAlsoAfterAPreparedOne) {
-    printer.Width = 15840;
-    printer.Height = 12240;
     routines.PreparePrinter(Orientation::Landscape, false);
     printer.EndJob();
     printer.SetPage(Orientation::Landscape, false);

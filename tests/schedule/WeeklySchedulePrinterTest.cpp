@@ -11,8 +11,6 @@ using namespace Qt::StringLiterals;
 class WeeklySchedulePrinterTest : public ScheduleTest {
 protected:
     WeeklySchedulePrinterTest() {
-        printer.Width = 15840;
-        printer.Height = 12240;
         office.settings.BusinessData = {
             u"Tessel Gravel"_s, u"1 Quarry Road"_s, u"Building 2"_s, u"Springfield"_s, u"IL"_s,
             u"62701"_s,         u"555-0100"_s,      u"555-0101"_s,   u"Tax 99"_s};
@@ -115,16 +113,20 @@ TEST_F(WeeklySchedulePrinterTest, TextIsBlackAndInTheDocumentFontOtherwise) {
     }
 }
 
-TEST_F(WeeklySchedulePrinterTest, TitleAndColumnHeadingsAreUnderlinedAndNothingElse) {
-    LoadAndPrint(1);
+TEST_F(WeeklySchedulePrinterTest, TitleAndColumnHeadingsOfEveryPageAreUnderlinedAndNothingElse) {
+    LoadAndPrint(26);
     QStringList underlined;
     for (const auto& text : printer.Texts) {
         if (text.underline)
-            underlined += text.text;
+            underlined += QString::number(text.page) + u' ' + text.text;
     }
-    EXPECT_EQ(underlined, (QStringList{u"Scheduled Deliveries by Date Range"_s, u"Delivery No."_s,
-                                       u"Account No"_s, u"Account Name"_s, u"Delivery Date"_s,
-                                       u"Time Scheduled"_s, u"Vehicle"_s}));
+    EXPECT_EQ(underlined,
+              (QStringList{u"1 Scheduled Deliveries by Date Range"_s, u"1 Delivery No."_s,
+                           u"1 Account No"_s, u"1 Account Name"_s, u"1 Delivery Date"_s,
+                           u"1 Time Scheduled"_s, u"1 Vehicle"_s,
+                           u"2 Scheduled Delveries by Date Range"_s, u"2 Delivery No."_s,
+                           u"2 Account No"_s, u"2 Account Name"_s, u"2 Delivery Date"_s,
+                           u"2 Time Scheduled"_s, u"2 Vehicle"_s}));
 }
 
 TEST_F(WeeklySchedulePrinterTest, HeadingShowsTheRangeOfTheFieldsAndToday) {
@@ -176,12 +178,12 @@ TEST_F(WeeklySchedulePrinterTest, PageThatIsJustFullHasNoEmptyPageBehindIt) {
 
 TEST_F(WeeklySchedulePrinterTest, RowThatReachesTheBottomMarginExactlyGoesToTheNextPage) {
     // The second row starts at 2832: with 1080 it reaches 3912.
-    printer.Height = 3912;
+    printer.ShortSide = 3912;
     LoadAndPrint(2);
     EXPECT_EQ(PlacesOfRows(1).size(), 1);
     EXPECT_EQ(PlacesOfRows(2), QStringList{u"2: 1584,2592 10 1002"_s});
     printer.Texts.clear();
-    printer.Height = 3913;
+    printer.ShortSide = 3913;
     Print();
     EXPECT_EQ(PlacesOfRows(1).size(), 2);
 }
@@ -202,7 +204,7 @@ TEST_F(WeeklySchedulePrinterTest, EveryPageButTheFirstHasTheMisspeltTitle) {
 TEST_F(WeeklySchedulePrinterTest, GroupsOfFiveGoOnAcrossPages) {
     // A row begins above 3768: 1 to 4 on the first page, 5 to 8 on the second, with the empty line
     // behind 5.
-    printer.Height = 4848;
+    printer.ShortSide = 4848;
     LoadAndPrint(9);
     EXPECT_EQ(PlacesOfRows(1).size(), 4);
     EXPECT_EQ(PlacesOfRows(2), (QStringList{u"2: 1584,2592 10 1005"_s, u"2: 1584,3144 10 1006"_s,

@@ -3,6 +3,10 @@
 #include "support/OfficeTest.h"
 #include "support/SampleSlips.h"
 
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+
 using namespace Qt::StringLiterals;
 
 using Preset = WeeklySchedule::Preset;
@@ -576,6 +580,36 @@ TEST_F(WeeklyScheduleTest, RemovalKeepsTheRange) {
     EXPECT_EQ(schedule.DTEnding, QDate(2026, 8, 1));
 }
 
+TEST_F(WeeklyScheduleTest, RemovalAsksNothingAboutDeliveriesThatArePast) {
+    office.settings.ckDelete = 1;
+    StoreSlip({.number = u"1"_s, .date = u"3/2/2026"_s});
+    StoreSlip({.number = u"2"_s, .recurring = u"False"_s, .frequency = {}});
+    Open();
+    schedule.LoadGrid();
+    auto expected = folder.Contents();
+    expected.erase(HeaderName(u"2"_s));
+    expected.erase(ItemName(u"2"_s));
+    Pick(1);
+    ExpectBothQuestions(u"2"_s);
+    user.ExpectMessage(u"Delivery Slip 2 scheduled for 3/16/2026 has been Deleted"_s);
+    schedule.RemoveDelivery();
+    EXPECT_EQ(folder.Contents(), expected);
+    EXPECT_EQ(office.slips.Table.Text(SlipLine::Date, 1), u"3/2/2026"_s);
+}
+
+TEST_F(WeeklyScheduleTest, RemoveButtonIsClosedWhileItsQuestionsAreOpen) {
+    StoreSlip({.number = u"1"_s});
+    Open();
+    schedule.LoadGrid();
+    Pick(1);
+    std::vector<bool> wasEnabled;
+    user.WhileMessageIsOpen = [&] { wasEnabled.push_back(schedule.RemoveIsEnabled); };
+    user.ExpectQuestion(FirstQuestion(u"1"_s), confirmTitle, Answer::Yes);
+    user.ExpectQuestion(sure, confirmTitle, Answer::No);
+    schedule.RemoveDelivery();
+    EXPECT_EQ(wasEnabled, (std::vector<bool>{false, false}));
+}
+
 TEST_F(WeeklyScheduleTest, RecurringDeliveryWhoseFileHasGoneCannotBeMoved) {
     StoreSlip({.number = u"1"_s});
     Open();
@@ -696,6 +730,20 @@ TEST_F(WeeklyScheduleTest, SaveRunsTheLoadWorkAgain) {
     ExpectNothingPicked();
 }
 
+TEST_F(WeeklyScheduleTest, SaveAsksNothingAboutDeliveriesThatArePast) {
+    folder.Write(HeaderName(u"1"_s), SlipHeaderBytes("1", "3/2/2026", "True", "0000001"));
+    folder.Write(HeaderName(u"2"_s), SlipHeaderBytes("2", "3/16/2026"));
+    Open();
+    schedule.LoadGrid();
+    Pick(1);
+    schedule.OpenReschedule();
+    schedule.ChangeRescheduleDate({2026, 3, 20});
+    auto expected = folder.Contents();
+    expected[HeaderName(u"2"_s)] = SlipHeaderBytes("2", "3/20/2026");
+    schedule.SaveDelivery();
+    EXPECT_EQ(folder.Contents(), expected);
+}
+
 TEST_F(WeeklyScheduleTest, NextLoadAfterASaveShowsTheStoredTimeAndVehicle) {
     StoreSlip({.number = u"1"_s});
     Open();
@@ -737,15 +785,21 @@ TEST_F(WeeklyScheduleTest, SaveMovesADeliveryToANonWorkDayAndHolidayAsItIsTold) 
     EXPECT_EQ(office.slips.Table.Text(SlipLine::Date, 1), u"3/21/2026"_s);
 }
 
-TEST_F(WeeklyScheduleTest, SaveWithNothingChangedWritesTheSameBytes) {
+TEST_F(WeeklyScheduleTest, SaveWithNothingChangedWritesTheSameBytesAnew) {
     folder.Write(HeaderName(u"1"_s), SlipHeaderBytes("1", "3/16/2026"));
     Open();
     schedule.LoadGrid();
     const auto before = folder.Contents();
+    QFile header(folder.PathOf(HeaderName(u"1"_s)));
+    ASSERT_TRUE(header.open(QIODevice::ReadWrite));
+    const QDateTime longAgo = QDate(2020, 1, 1).startOfDay();
+    ASSERT_TRUE(header.setFileTime(longAgo, QFileDevice::FileModificationTime));
+    header.close();
     Pick(1);
     schedule.OpenReschedule();
     schedule.SaveDelivery();
     EXPECT_EQ(folder.Contents(), before);
+    EXPECT_GT(QFileInfo(folder.PathOf(HeaderName(u"1"_s))).lastModified(), longAgo);
 }
 
 TEST_F(WeeklyScheduleTest, ClosedPanelLeavesTheDiskAndThePick) {
@@ -815,6 +869,26 @@ TEST_F(WeeklyScheduleTest, ComingBackShowsTheSlipsAsTheyAreNow) {
     EXPECT_EQ(schedule.DTStarting, QDate(2026, 3, 16));
     EXPECT_EQ(schedule.DTEnding, QDate(2026, 3, 16));
     ExpectNothingPicked();
+}
+
+TEST_F(WeeklyScheduleTest, ComingBackAsksNothingAboutDeliveriesThatArePast) {
+    StoreSlip({.number = u"1"_s, .date = u"3/2/2026"_s});
+    Open();
+    schedule.LoadGrid();
+    const auto before = folder.Contents();
+    schedule.Refresh();
+    EXPECT_EQ(folder.Contents(), before);
+}
+
+TEST_F(WeeklyScheduleTest, ComingBackClosesThePanelOfADeliveryThatWasBeingMoved) {
+    StoreSlip({.number = u"1"_s});
+    Open();
+    schedule.LoadGrid();
+    Pick(1);
+    schedule.OpenReschedule();
+    schedule.Refresh();
+    ExpectNothingPicked();
+    EXPECT_EQ(Numbers(), QStringList{u"1"_s});
 }
 
 TEST_F(WeeklyScheduleTest, ComingBackToAGridThatWasNotLoadedLeavesItEmpty) {

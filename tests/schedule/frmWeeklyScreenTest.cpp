@@ -12,6 +12,9 @@
 #include <QListView>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QWindow>
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -87,6 +90,11 @@ protected:
         Type(Date(name), text);
         Press(Date(name), last);
     }
+    void PasteOver(const QString& date) {
+        Date(date)->setFocus();
+        Date(date)->selectAll();
+        QTest::keyClick(Date(date), Qt::Key_V, Qt::ControlModifier);
+    }
     void ClickEntry(const QString& name, int row) {
         QListView* list = List(name);
         list->scrollTo(list->model()->index(row, 0));
@@ -102,6 +110,14 @@ protected:
                             confirmTitle, first);
         if (first == Answer::Yes)
             user.ExpectQuestion(u"Are you sure?"_s, confirmTitle, second);
+    }
+    /// Over the grid, as the machine tells the window of it; away from the operator is up.
+    void TurnWheel(int angle) {
+        QWidget* window = screens.Find(weekly);
+        const QPointF place = grid->viewport()->mapTo(window, QPointF(10, 10));
+        QWheelEvent wheel(place, window->mapToGlobal(place), {}, {0, angle}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(window->windowHandle(), &wheel);
     }
     /// Tab, as often as it takes to reach a control.
     void TabTo(const QWidget* control) {
@@ -246,13 +262,27 @@ TEST_F(WeeklyScreen, DateTypedBeforeTodayWithPromptsAndAlarmsOffIsCorrectedWitho
 TEST_F(WeeklyScreen, DatePastedBeforeTodayIsCorrectedAsWell) {
     Open();
     QApplication::clipboard()->setText(u"12/31/2025"_s);
-    Date(u"DTEnding"_s)->setFocus();
-    Date(u"DTEnding"_s)->selectAll();
-    QTest::keyClick(Date(u"DTEnding"_s), Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(Date(u"DTEnding"_s)->text(), u"12/31/2025"_s);
+    for (const QString& name : {u"DTStarting"_s, u"DTEnding"_s}) {
+        PasteOver(name);
+        EXPECT_EQ(Date(name)->text(), u"12/31/2025"_s);
+        ExpectInvalidDate();
+        Press(Date(name), Qt::Key_Return);
+        EXPECT_EQ(Date(name)->text(), u"3/9/2026"_s);
+        EXPECT_EQ(Focused(), Date(name));
+    }
+}
+
+TEST_F(WeeklyScreen, DateOfAnotherRegionBeforeTodayIsCorrectedAsWell) {
+    UseLocale("de_DE.UTF-8");
+    Open();
+    ExpectInvalidDate();
+    TypeDate(u"DTStarting"_s, u"08.03.2026"_s);
+    EXPECT_EQ(Date(u"DTStarting"_s)->text(), u"09.03.2026"_s);
+    QApplication::clipboard()->setText(u"31.12.2025"_s);
+    PasteOver(u"DTEnding"_s);
     ExpectInvalidDate();
     Press(Date(u"DTEnding"_s), Qt::Key_Return);
-    EXPECT_EQ(Date(u"DTEnding"_s)->text(), u"3/9/2026"_s);
+    EXPECT_EQ(Date(u"DTEnding"_s)->text(), u"09.03.2026"_s);
 }
 
 TEST_F(WeeklyScreen, TextThatIsNoDateIsTakenBackWithABeepUnlessAlarmsAreOff) {
@@ -260,9 +290,7 @@ TEST_F(WeeklyScreen, TextThatIsNoDateIsTakenBackWithABeepUnlessAlarmsAreOff) {
     int beeps = 0;
     for (const QString& text : {u"soon"_s, u"2/30/2026"_s, u"3/9/26"_s, u"\u00e9\u4e00"_s}) {
         QApplication::clipboard()->setText(text);
-        Date(u"DTStarting"_s)->setFocus();
-        Date(u"DTStarting"_s)->selectAll();
-        QTest::keyClick(Date(u"DTStarting"_s), Qt::Key_V, Qt::ControlModifier);
+        PasteOver(u"DTStarting"_s);
         Press(Date(u"DTStarting"_s), Qt::Key_Return);
         EXPECT_EQ(Date(u"DTStarting"_s)->text(), u"3/9/2026"_s);
         EXPECT_EQ(user.Beeps, ++beeps);
@@ -284,6 +312,13 @@ TEST_F(WeeklyScreen, CalendarOfTheFirstDateBeginsToday) {
     Press(Date(u"DTStarting"_s), Qt::Key_F4);
     const auto* calendar = Find<QCalendarWidget>(weekly, u"calendar"_s);
     EXPECT_EQ(calendar->minimumDate(), QDate(2026, 3, 9));
+}
+
+TEST_F(WeeklyScreen, CalendarOfTheLastDateReachesBackBeforeToday) {
+    Open();
+    Press(Date(u"DTEnding"_s), Qt::Key_F4);
+    const auto* calendar = Find<QCalendarWidget>(weekly, u"calendar"_s);
+    EXPECT_LT(calendar->minimumDate(), QDate(2026, 3, 8));
 }
 
 TEST_F(WeeklyScreen, ButtonPressedByItsKeyWorksOnTheDateThatIsTyped) {
@@ -338,6 +373,27 @@ TEST_F(WeeklyScreen, ClickOnAVehicleClearsTheGridAndTheNextLoadFilters) {
     EXPECT_EQ(Numbers(), QStringList{QString()});
 }
 
+TEST_F(WeeklyScreen, ColumnsFitTheDeliveriesAfterAClickOnAVehicle) {
+    WriteSlip(folder, {.number = u"9"_s, .customer = u"Hoskins and Daughters Masonry"_s});
+    OpenLoaded();
+    const int fitting = grid->columnWidth(int(WeeklyColumn::AccountName));
+    FilterBox()->click();
+    ClickEntry(u"lstVehicles"_s, 0);
+    EXPECT_LT(grid->columnWidth(int(WeeklyColumn::AccountName)), fitting);
+    Click(weekly, u"cmdweekly(3)"_s);
+    EXPECT_EQ(grid->columnWidth(int(WeeklyColumn::AccountName)), fitting);
+}
+
+TEST_F(WeeklyScreen, EmptyGridShowsItsHintAloneThoughARowIsCurrent) {
+    OpenLoaded();
+    Click(weekly, u"cmdweekly(1)"_s);
+    ASSERT_EQ(office.weekly.fgWeekly.CurrentRow(), 1);
+    const QRect row = grid->visualRect(grid->model()->index(0, 0));
+    const QImage shown = grid->viewport()->grab(row).toImage();
+    const QColor ground = shown.pixelColor(shown.width() / 2, shown.height() / 2);
+    EXPECT_EQ(ground, grid->palette().color(QPalette::Base));
+}
+
 TEST_F(WeeklyScreen, UntickingShowsAllVehiclesAgain) {
     OpenLoaded();
     FilterBox()->click();
@@ -347,17 +403,23 @@ TEST_F(WeeklyScreen, UntickingShowsAllVehiclesAgain) {
     EXPECT_EQ(Numbers().size(), 3);
 }
 
-TEST_F(WeeklyScreen, ChosenVehicleStaysWhenTheVehiclesAreReadAnew) {
-    OpenLoaded();
+TEST_F(WeeklyScreen, NoVehicleIsChosenAnyMoreWhenTheVehiclesAreReadAnew) {
+    OpenPanel();
     FilterBox()->click();
     ClickEntry(u"lstVehicles"_s, 1);
+    Click(weekly, u"cmdweekly(3)"_s);
+    ClickCell(grid, 1, 0);
+    Click(weekly, u"cmdweekly(8)"_s);
+    ASSERT_EQ(Chosen(u"lstVehicles"_s), u"Van 2"_s);
+    ASSERT_EQ(Chosen(u"lstRescheduleVehicles"_s), u"Van 2"_s);
     WriteVehicles(office, {u"Bus"_s, u"Tanker"_s, u"Van 2"_s});
-    EXPECT_EQ(Chosen(u"lstVehicles"_s), u"Van 2"_s);
-    EXPECT_EQ(office.weekly.lstVehicles, u"Van 2"_s);
-    folder.Remove(u"Vehicles.txt"_s);
-    WriteVehicles(office, {u"Bus"_s});
+    EXPECT_EQ(List(u"lstVehicles"_s)->model()->rowCount(), 3);
     EXPECT_EQ(Chosen(u"lstVehicles"_s), QString());
+    EXPECT_EQ(Chosen(u"lstRescheduleVehicles"_s), QString());
     EXPECT_EQ(office.weekly.lstVehicles, QString());
+    EXPECT_EQ(Numbers(), QStringList{u"1"_s}) << "no click has cleared the grid";
+    Click(weekly, u"cmdweekly(3)"_s);
+    EXPECT_EQ(Numbers(), QStringList{QString()});
 }
 
 TEST_F(WeeklyScreen, ClickInColumnZeroOpensTheTwoButtonsAndOneElsewhereClosesThem) {
@@ -409,6 +471,16 @@ TEST_F(WeeklyScreen, RemoveButtonIsClosedAfterANoAndOpensWithTheNextClick) {
     EXPECT_EQ(Focused(), grid);
     ClickCell(grid, 2, 0);
     EXPECT_TRUE(Button(2)->isEnabled());
+}
+
+TEST_F(WeeklyScreen, RemoveButtonIsClosedWhileItsQuestionsAreOpen) {
+    OpenLoaded();
+    ClickCell(grid, 2, 0);
+    std::vector<bool> wasEnabled;
+    user.WhileMessageIsOpen = [&] { wasEnabled.push_back(Button(2)->isEnabled()); };
+    ExpectQuestions(u"2"_s, Answer::Yes, Answer::No);
+    Click(weekly, u"cmdweekly(2)"_s);
+    EXPECT_EQ(wasEnabled, (std::vector<bool>{false, false}));
 }
 
 TEST_F(WeeklyScreen, RemovedDeliveryLeavesTheGridAndTheDisk) {
@@ -465,6 +537,10 @@ TEST_F(WeeklyScreen, PanelsDateBeforeTodayBecomesTodayInSilence) {
     OpenPanel();
     TypeDate(u"dtReschedule"_s, u"3/1/2026"_s);
     EXPECT_EQ(Date(u"dtReschedule"_s)->text(), u"3/9/2026"_s);
+    QApplication::clipboard()->setText(u"12/31/2025"_s);
+    PasteOver(u"dtReschedule"_s);
+    Press(Date(u"dtReschedule"_s), Qt::Key_Return);
+    EXPECT_EQ(Date(u"dtReschedule"_s)->text(), u"3/9/2026"_s);
     EXPECT_EQ(user.Beeps, 0);
     Press(Date(u"dtReschedule"_s), Qt::Key_F4);
     EXPECT_EQ(Find<QCalendarWidget>(weekly, u"calendar"_s)->minimumDate(), QDate(2026, 3, 9));
@@ -505,6 +581,62 @@ TEST_F(WeeklyScreen, SaveTakesADateThatIsStillBeingTyped) {
     Type(Date(u"dtReschedule"_s), u"3/25/2026"_s);
     Button(9)->click();
     EXPECT_TRUE(folder.Read(HeaderName(u"2"_s)).startsWith("2\r\n3/25/2026\r\n"));
+}
+
+TEST_F(WeeklyScreen, DateBeforeTodayThatIsStillBeingTypedIsSavedAsToday) {
+    OpenPanel();
+    Date(u"dtReschedule"_s)->selectAll();
+    Type(Date(u"dtReschedule"_s), u"3/1/2026"_s);
+    Click(weekly, u"cmdweekly(9)"_s);
+    EXPECT_TRUE(folder.Read(HeaderName(u"2"_s)).startsWith("2\r\n3/9/2026\r\n"));
+    EXPECT_EQ(user.Beeps, 0);
+    EXPECT_FALSE(PanelIsShown());
+}
+
+TEST_F(WeeklyScreen, SaveOverATextThatIsNoDateBeepsAndSavesNothingBeforeTheNextPress) {
+    OpenPanel();
+    const auto before = folder.Contents();
+    int beeps = 0;
+    const auto enter = [this](const QString& text) {
+        Date(u"dtReschedule"_s)->setFocus();
+        Date(u"dtReschedule"_s)->selectAll();
+        Type(Date(u"dtReschedule"_s), text);
+    };
+    const std::function<void()> presses[] = {[this] { Click(weekly, u"cmdweekly(9)"_s); },
+                                             [this] { Button(9)->click(); }};
+    for (const auto& press : presses) {
+        enter(u"3/32/2026"_s);
+        press();
+        EXPECT_EQ(user.Beeps, ++beeps);
+        EXPECT_TRUE(PanelIsShown());
+        EXPECT_EQ(Date(u"dtReschedule"_s)->text(), u"3/16/2026"_s);
+        EXPECT_EQ(Focused(), Date(u"dtReschedule"_s));
+        EXPECT_EQ(folder.Contents(), before);
+    }
+    enter(u"3/25/2026"_s);
+    Click(weekly, u"cmdweekly(9)"_s);
+    EXPECT_TRUE(folder.Read(HeaderName(u"2"_s)).startsWith("2\r\n3/25/2026\r\n"));
+}
+
+TEST_F(WeeklyScreen, TextThatIsNoDateAndIsLeftForAnotherFieldHoldsNoSaveUp) {
+    OpenPanel();
+    TypeDate(u"dtReschedule"_s, u"soon"_s, Qt::Key_Tab);
+    EXPECT_EQ(user.Beeps, 1);
+    EXPECT_EQ(Date(u"dtReschedule"_s)->text(), u"3/16/2026"_s);
+    Click(weekly, u"cmdweekly(9)"_s);
+    EXPECT_FALSE(PanelIsShown());
+}
+
+TEST_F(WeeklyScreen, TextThatIsNoDateIsNotSavedWithAlarmsOffEither) {
+    OpenPanel();
+    office.settings.AlarmOn = false;
+    const auto before = folder.Contents();
+    Date(u"dtReschedule"_s)->selectAll();
+    Type(Date(u"dtReschedule"_s), u"soon"_s);
+    Click(weekly, u"cmdweekly(9)"_s);
+    EXPECT_EQ(user.Beeps, 0);
+    EXPECT_TRUE(PanelIsShown());
+    EXPECT_EQ(folder.Contents(), before);
 }
 
 TEST_F(WeeklyScreen, ExitWithoutSavingClosesThePanelAndChangesNothing) {
@@ -585,6 +717,18 @@ TEST_F(WeeklyScreen, ComingBackKeepsTheRangeAndShowsTheSlipsAsTheyAreNow) {
     EXPECT_FALSE(Button(2)->isEnabled());
 }
 
+TEST_F(WeeklyScreen, ComingBackClosesThePanelOfADeliveryThatWasBeingMoved) {
+    WriteMasterFiles();
+    OpenPanel();
+    Click(weekly, u"cmdweekly(0)"_s);
+    screens.Show(weekly);
+    EXPECT_FALSE(PanelIsShown());
+    EXPECT_TRUE(grid->isEnabled());
+    EXPECT_FALSE(Button(2)->isEnabled());
+    EXPECT_FALSE(Button(8)->isEnabled());
+    EXPECT_EQ(Numbers(), (QStringList{u"1"_s, u"2"_s, u"3"_s}));
+}
+
 TEST_F(WeeklyScreen, CloseBoxAsksForTheEndOfTheProgram) {
     Open();
     CloseByUser(weekly);
@@ -592,17 +736,22 @@ TEST_F(WeeklyScreen, CloseBoxAsksForTheEndOfTheProgram) {
     EXPECT_TRUE(IsShown(weekly));
 }
 
-TEST_F(WeeklyScreen, WheelScrollsTheGrid) {
+TEST_F(WeeklyScreen, WheelScrollsTheGridBothWays) {
     for (int i = 0; i < 60; ++i)
         WriteSlip(folder, {.number = QString::number(600 + i)});
     Open();
     Click(weekly, u"cmdweekly(3)"_s);
     QCoreApplication::processEvents();
     EXPECT_EQ(grid->verticalScrollBar()->value(), 0);
-    QWheelEvent wheel({10, 10}, grid->viewport()->mapToGlobal(QPointF(10, 10)), {}, {0, -240},
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(grid->viewport(), &wheel);
-    EXPECT_GT(grid->verticalScrollBar()->value(), 0);
+    TurnWheel(-240);
+    const int lower = grid->verticalScrollBar()->value();
+    EXPECT_GT(lower, 0);
+    TurnWheel(-240);
+    EXPECT_GT(grid->verticalScrollBar()->value(), lower);
+    TurnWheel(240);
+    EXPECT_EQ(grid->verticalScrollBar()->value(), lower);
+    TurnWheel(2400);
+    EXPECT_EQ(grid->verticalScrollBar()->value(), 0);
 }
 
 TEST_F(WeeklyScreen, TabGoesFromTheRangeOverTheGridToTheButtons) {

@@ -477,10 +477,10 @@ TEST_F(CompanyLogoTest, LogoIsCentredByTheWidthOfItsFileAndPaintedInItsAdjustedS
 TEST_F(CompanyLogoTest, LogoIsCentredOnThePageTheWayRoundItIs) {
     Find(wide);
     SetSize(1000, 500);
-    printer.Width = 15840;
-    printer.Height = 12240;
+    printer.SetPage(Orientation::Landscape, false);
     logo.PaintOn(printer, 720);
-    printer.Width = 9001;
+    printer.ShortSide = 9001;
+    printer.SetPage(Orientation::Portrait, false);
     logo.PaintOn(printer, 720);
     ASSERT_EQ(printer.Pictures.size(), 2U);
     // Half of 15,840 less 3,000, and of 9,001 less 3,000.

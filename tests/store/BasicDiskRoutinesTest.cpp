@@ -380,11 +380,14 @@ TEST_F(BasicDiskRoutinesTest, RecordsAreReadInOneGoWithZeroBytesBeyondTheEnd) {
     folder.Write(u"Records.txt"_s, "AAABBBCC");
     disk.OpenRandom(u"/Records.txt"_s, 3);
     QByteArray records(13, 'x');
-    disk.ReadRecords(disk.DiskFile, 2, records.data(), 3);
+    disk.ReadRecords(disk.DiskFile, 1, 2, records.data(), 3);
     EXPECT_EQ(records, QByteArray("AAABBBxxxxxxx", 13));
-    disk.ReadRecords(disk.DiskFile, 4, records.data(), 3);
+    disk.ReadRecords(disk.DiskFile, 1, 4, records.data(), 3);
     EXPECT_EQ(records, QByteArray("AAABBBCC\0\0\0\0x", 13));
-    disk.ReadRecords(disk.DiskFile, 0, records.data(), 3);
+    disk.ReadRecords(disk.DiskFile, 2, 1, records.data(), 3);
+    EXPECT_EQ(records.first(3), "BBB");
+    disk.ReadRecords(disk.DiskFile, 1, 4, records.data(), 3);
+    disk.ReadRecords(disk.DiskFile, 1, 0, records.data(), 3);
     EXPECT_EQ(records, QByteArray("AAABBBCC\0\0\0\0x", 13));
 }
 
@@ -393,9 +396,13 @@ TEST_F(BasicDiskRoutinesTest, RecordsReadInOneGoHaveTheFilesRecordLength) {
     disk.OpenRandom(u"/Records.txt"_s, 3);
     char records[8] = {};
     for (const size_t size : {2, 4})
-        ExpectFailure(FailureKind::BadRecord, u"Reading the 2 records of Records.txt failed: "_s,
-                      [&] { disk.ReadRecords(disk.DiskFile, 2, records, size); });
-    EXPECT_EQ(FailureOf([&] { disk.ReadRecords(99, 1, records, 3); }).Kind(),
+        ExpectFailure(FailureKind::BadRecord,
+                      u"Reading 2 records from record 1 of Records.txt failed: "_s,
+                      [&] { disk.ReadRecords(disk.DiskFile, 1, 2, records, size); });
+    ExpectFailure(FailureKind::BadRecord,
+                  u"Reading 1 records from record 0 of Records.txt failed: "_s,
+                  [&] { disk.ReadRecords(disk.DiskFile, 0, 1, records, 3); });
+    EXPECT_EQ(FailureOf([&] { disk.ReadRecords(99, 1, 1, records, 3); }).Kind(),
               FailureKind::FileNotOpen);
 }
 

@@ -207,6 +207,32 @@ TEST_F(FixedRecordTest, RecordNeverAssignedIsAllZeroBytes) {
     EXPECT_EQ(folder.Read(u"Sample.txt"_s), QByteArray(30, '\0'));
 }
 
+TEST_F(FixedRecordTest, RecordsAreVisitedOneAfterTheOtherHoweverManyAreReadAtOnce) {
+    // With the last one cut in the middle of its name.
+    QByteArray bytes;
+    for (int number = 1; number <= 300; ++number)
+        bytes += QByteArray::number(number).leftJustified(30, ' ');
+    bytes.chop(29);
+    folder.Write(u"Sample.txt"_s, bytes);
+    disk.OpenRandom(u"/Sample.txt"_s, sizeof(SampleRecord));
+    QStringList names;
+    VisitRecords<SampleRecord>(disk, disk.DiskFile, 300,
+                               [&](qint32 number, const SampleRecord& record) {
+                                   EXPECT_EQ(number, names.size() + 1);
+                                   names += record.Name.Trimmed();
+                               });
+    ASSERT_EQ(names.size(), 300);
+    for (const int number : {1, 2, 127, 128, 129, 256, 257, 299})
+        EXPECT_EQ(names[number - 1], QString::number(number));
+    EXPECT_EQ(names[299].front(), u'3');
+    EXPECT_EQ(names[299].back(), QChar::Null);
+}
+
+TEST_F(FixedRecordTest, NoRecordsAreVisitedWithoutAFile) {
+    VisitRecords<SampleRecord>(disk, disk.DiskFile, 0,
+                               [](qint32, const SampleRecord&) { ADD_FAILURE(); });
+}
+
 TEST_F(FixedRecordTest, RecordLongerThanTheFilesFails) {
     disk.OpenRandom(u"/Sample.txt"_s, 29);
     EXPECT_EQ(FailureOf([this] { ReadRecord<SampleRecord>(disk, disk.DiskFile, 1); }).Kind(),

@@ -27,6 +27,7 @@ QStringList RecordingPrinter::DrawnTexts() const {
 }
 
 void RecordingPrinter::SetPaper(Orientation orientation, bool inColor) {
+    isAcross = orientation == Orientation::Landscape;
     Orientations.push_back(orientation);
     Colors.push_back(inColor);
 }

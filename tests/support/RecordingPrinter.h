@@ -54,9 +54,10 @@ public:
     std::optional<int> FailingText;
     /// The box (counted from 1) that fails.
     std::optional<int> FailingBox;
-    /// Of the paper, in twips; letter paper upright unless a test turns it.
-    double Width = 12240;
-    double Height = 15840;
+    /// Of the paper, in twips: letter paper. It stands upright until SetPage turns it, so that a
+    /// routine that measures the page before it sets it goes wrong here as well.
+    double ShortSide = 12240;
+    double LongSide = 15840;
     /// Makes such a failure the operator's cancelling.
     bool FailsAsCancelled = false;
     /// The printer dies when the job is sent off.
@@ -67,8 +68,8 @@ public:
     /// What was drawn, a text each: "page: x,y size text", with "b" behind a bold size.
     QStringList DrawnTexts() const;
 
-    double PageWidth() const override { return Width; }
-    double PageHeight() const override { return Height; }
+    double PageWidth() const override { return isAcross ? LongSide : ShortSide; }
+    double PageHeight() const override { return isAcross ? ShortSide : LongSide; }
     int PageNumber() const override { return page; }
     double TextWidth(const QString& text) override;
     double TextHeight(const QString& text) override;
@@ -89,4 +90,5 @@ private:
     RuntimeFailure Stopped() const;
 
     int page = 1;
+    bool isAcross = false;
 };
