@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double productsHeight = 9;
+constexpr double productsHeight = 8;
 constexpr double quantityWidth = 7;
 
 } // namespace
@@ -54,6 +54,7 @@ QWidget* AddItemsPanel::MakeProducts() {
     fgAddItems = Named(new Grid(products), u"fgAddItems"_s);
     fgAddItems->setAccessibleName(u"Products to add"_s);
     fgAddItems->setMinimumHeight(Em(productsHeight));
+    fgAddItems->StretchColumn(int(AddItemColumn::Description));
     fgAddItems->SetEmptyHint(u"No products yet. They are entered on the products screen."_s);
     connect(fgAddItems, &Grid::Clicked, this, [this](int row, int column) {
         added.ClickProduct(row, AddItemColumn(column));

@@ -239,6 +239,8 @@ QWidget* frmPrintSchedules::MakeSlipPanel() {
     fgItems = Named(new Grid(board.fgItems), u"fgItems"_s);
     fgItems->setAccessibleName(u"Goods on the delivery slip"_s);
     fgItems->setMinimumHeight(Em(itemsHeight));
+    // The amounts are to be seen whole beside the addresses.
+    fgItems->StretchColumn(1);
     auto* contents = new QHBoxLayout;
     contents->setSpacing(cardGap);
     contents->addWidget(MakeSlipAddresses(), 2);

@@ -29,6 +29,7 @@ constexpr double sideWidth = 15.5;
 constexpr double gridHeight = 8;
 constexpr double choicesHeight = 8;
 constexpr double timesWidth = 8;
+constexpr double dateWidth = 9;
 constexpr double factsWidth = 10;
 constexpr int factsGap = 4;
 constexpr int headingGap = 4;
@@ -155,6 +156,8 @@ QWidget* frmWeekly::MakeGrid() {
     fgWeekly = Named(new Grid(schedule.fgWeekly), u"fgWeekly"_s);
     fgWeekly->setAccessibleName(u"Deliveries of the range"_s);
     fgWeekly->setMinimumHeight(Em(gridHeight));
+    // A long name gives way, so that a small window has all columns.
+    fgWeekly->StretchColumn(int(WeeklyColumn::AccountName));
     for (const auto key :
          {WeeklyColumn::DateSortKey, WeeklyColumn::TimeSortKey, WeeklyColumn::Entry})
         fgWeekly->setColumnHidden(int(key), true);
@@ -195,6 +198,7 @@ QLayout* frmWeekly::MakeRescheduleFacts() {
 QWidget* frmWeekly::MakeReschedulePanel() {
     fraReschedule = Named(new Card(u"Rescheduling a Delivery"_s), u"fraReschedule"_s);
     dtReschedule = MakeDatePicker(u"dtReschedule"_s);
+    dtReschedule->setMinimumWidth(Em(dateWidth));
     connect(dtReschedule, &DatePicker::Changed, this, &frmWeekly::dtReschedule_Change);
     connect(dtReschedule, &DatePicker::Refused, this, [this] {
         // The mouse takes the focus to the button before the button tells of its click.

@@ -8,6 +8,7 @@
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QHeaderView>
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
@@ -374,14 +375,24 @@ TEST_F(WeeklyScreen, ClickOnAVehicleClearsTheGridAndTheNextLoadFilters) {
 }
 
 TEST_F(WeeklyScreen, ColumnsFitTheDeliveriesAfterAClickOnAVehicle) {
-    WriteSlip(folder, {.number = u"9"_s, .customer = u"Hoskins and Daughters Masonry"_s});
     OpenLoaded();
-    const int fitting = grid->columnWidth(int(WeeklyColumn::AccountName));
+    const int fitting = grid->columnWidth(int(WeeklyColumn::Vehicle));
     FilterBox()->click();
     ClickEntry(u"lstVehicles"_s, 0);
-    EXPECT_LT(grid->columnWidth(int(WeeklyColumn::AccountName)), fitting);
+    EXPECT_LT(grid->columnWidth(int(WeeklyColumn::Vehicle)), fitting);
     Click(weekly, u"cmdweekly(3)"_s);
-    EXPECT_EQ(grid->columnWidth(int(WeeklyColumn::AccountName)), fitting);
+    EXPECT_EQ(grid->columnWidth(int(WeeklyColumn::Vehicle)), fitting);
+}
+
+TEST_F(WeeklyScreen, SmallWindowHasAllColumnsOfLongNamesToo) {
+    WriteSlip(folder, {.number = u"9"_s, .customer = u"Hoskins and Daughters Masonry"_s});
+    OpenLoaded();
+    screens.Find(weekly)->resize(964, 700);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(screens.Find(weekly)->size(), QSize(964, 700));
+    EXPECT_FALSE(grid->horizontalScrollBar()->isVisible());
+    EXPECT_GE(grid->columnWidth(int(WeeklyColumn::AccountName)),
+              grid->horizontalHeader()->sectionSizeHint(int(WeeklyColumn::AccountName)));
 }
 
 TEST_F(WeeklyScreen, EmptyGridShowsItsHintAloneThoughARowIsCurrent) {
