@@ -31,9 +31,7 @@ bool HoldsOutput(const QSerialPort& port) {
 DesktopSerialPort::DesktopSerialPort(const Devices& devices) : deviceOf(devices) {
     port.setReadBufferSize(inputBufferSize);
     connect(&port, &QSerialPort::readyRead, this, &SerialPort::Received);
-    // Not at once: the toolkit is in the middle of reading or writing.
-    connect(&port, &QSerialPort::errorOccurred, this, &DesktopSerialPort::CloseWhenGone,
-            Qt::QueuedConnection);
+    connect(&port, &QSerialPort::errorOccurred, this, &DesktopSerialPort::CloseWhenGone);
 }
 
 RuntimeFailure DesktopSerialPort::FailureOf(const QString& operation, const QString& reason) const {
@@ -56,6 +54,7 @@ void DesktopSerialPort::Open() {
     if (!QFile::exists(device))
         throw FailureOf(u"Opening"_s, u"there is no such device"_s);
     port.setPortName(device);
+    ++opening;
     if (!port.open(QIODevice::ReadWrite))
         throw FailureOf(u"Opening"_s, port.errorString());
 }
@@ -106,7 +105,15 @@ void DesktopSerialPort::ClearInput() {
 }
 
 void DesktopSerialPort::CloseWhenGone(QSerialPort::SerialPortError error) {
-    const bool isGone = error == QSerialPort::ResourceError || error == QSerialPort::ReadError;
-    if (isGone && port.isOpen())
-        port.close();
+    if (error != QSerialPort::ResourceError && error != QSerialPort::ReadError)
+        return;
+    // Not at once: the toolkit is in the middle of reading or writing. By then another port may be
+    // open, which has nothing to do with the error.
+    QMetaObject::invokeMethod(
+        this,
+        [this, failed = opening] {
+            if (failed == opening && port.isOpen())
+                port.close();
+        },
+        Qt::QueuedConnection);
 }

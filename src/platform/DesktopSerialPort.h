@@ -35,6 +35,8 @@ private:
     Devices deviceOf;
     qint16 number = firstPort;
     QSerialPort port;
+    /// Which opening it is, a failed one included.
+    int opening = 0;
     /// When the bytes sent last will have left the machine.
     QDeadlineTimer outputLeaves{0};
 };

@@ -126,7 +126,6 @@ void Dialer::cmdNewDial_Click() {
     State = CallState::Dialing;
     lblStatus = u"Dialing..... "_s + lblNumber;
     PassOver([this] { port.ClearInput(); });
-    ModemReply.clear();
     // The semicolon keeps the modem listening for commands after it has dialed.
     Send("ATDT" + ToCodePage(WithoutControls(lblNumber)) + ";\r");
 }
@@ -135,7 +134,7 @@ void Dialer::cmdNewDial_Click() {
 void Dialer::ReadReply() {
     if (State != CallState::Dialing || port.InBufferCount() < leastReply)
         return;
-    ModemReply = port.Input();
+    const QByteArray ModemReply = port.Input();
     if (!ModemReply.contains("OK"))
         return;
     State = CallState::WaitingForReceiver;

@@ -84,7 +84,6 @@ private:
     const LiveSettings& settings;
     SerialPort& port;
     Operator& user;
-    QByteArray ModemReply;
     /// The recipient before an entry was chosen.
     QString SavedName;
     QString SavedNumber;

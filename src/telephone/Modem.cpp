@@ -20,9 +20,9 @@ constexpr qint16 portWithoutModem = 1;
 constexpr qsizetype leastAnswer = 2;
 /// What silent ports may take of the start, all together.
 constexpr std::chrono::milliseconds timeToSearch = 400ms;
-/// A modem needs a few milliseconds to hear the command and to say it back. An adapter on USB may
-/// keep the bytes for another 16.
-constexpr std::chrono::milliseconds shortestPass = 15ms;
+/// A modem needs 6 milliseconds or so to hear the command and to begin to say it back. An adapter
+/// on USB may keep the bytes for another 16.
+constexpr std::chrono::milliseconds shortestPass = 22ms;
 constexpr std::chrono::milliseconds longestPass = 50ms;
 
 /// A port's share of what is left for the search. Most machines have few ports, and those that
@@ -39,15 +39,19 @@ Modem::Modem(BasicDiskRoutines& diskRoutines, LiveSettings& liveSettings, Serial
 
 void Modem::SetUpModem() {
     ProbeModem();
-    settings.PhoneDaisyChained = false;
-    if (disk.FileExists(phoneFile)) {
+    if (!disk.FileExists(phoneFile)) {
+        settings.ckPhone = false;
+        settings.PhoneDaisyChained = false;
+    } else {
         disk.OpenForInput(phoneFile);
         TextReader reader(disk);
         settings.PhoneDaisyChained = reader.Boolean();
         settings.ComPort = reader.Int16();
         disk.CloseAllFiles();
+        // Meant so: a box that is ticked already keeps its tick, and the save takes it over.
+        if (settings.PhoneDaisyChained)
+            settings.ckPhone = true;
     }
-    settings.ckPhone = settings.PhoneDaisyChained;
     SavePhoneSettings();
 }
 

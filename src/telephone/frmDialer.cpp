@@ -95,7 +95,7 @@ frmDialer::frmDialer(Office& theOffice, Screens& allScreens)
 }
 
 frmDialer::~frmDialer() {
-    if (!isOver && dialer.State != CallState::Ready)
+    if (!isOver)
         dialer.HangUp();
 }
 
@@ -287,7 +287,6 @@ void frmDialer::cmdDialer_Click(size_t slot) {
 }
 
 void frmDialer::cmdSpeedDialer_Click(Button index) {
-    const QWidget* focused = focusWidget();
     for (size_t field = 0; field < txtDialer.size(); ++field)
         dialer.txtDialer[field] = txtDialer[field]->text();
     switch (index) {
@@ -309,6 +308,8 @@ void frmDialer::cmdSpeedDialer_Click(Button index) {
     }
     for (size_t field = 0; field < txtDialer.size(); ++field)
         txtDialer[field]->setText(dialer.txtDialer[field]);
+    // Only now: while the question is open, the modem may have moved the focus to the receiver.
+    const QWidget* focused = focusWidget();
     ShowAll();
     // What had the focus may be hidden or disabled now. Its neighbour would dial or restore.
     if (focused && !(focused->isVisible() && focused->isEnabled()))

@@ -23,7 +23,7 @@ class frmDialer : public Screen {
 public:
     /// Opens the port and loads the speed dial entries.
     frmDialer(Office& theOffice, Screens& allScreens);
-    /// A call that the screen goes away from is hung up.
+    /// Hangs up when nothing else has: the close box is a way out like any other.
     ~frmDialer() override;
 
     void Activate() override;

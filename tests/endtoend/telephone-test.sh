@@ -47,7 +47,7 @@ heard=''
 StartModem() {
     mkdir "$dayFolder/ports"
     "$playedModem" "$dayFolder/ports/ttyUSB0" "$dayFolder/heard" "$dayFolder/silence" \
-        >"$dayFolder/modem.log" 2>&1 &
+        "$dayFolder/hold" >"$dayFolder/modem.log" 2>&1 &
     modemProcess=$!
     local i
     for ((i = 0; i < 10 * secondsToWait; i++)); do
@@ -114,13 +114,48 @@ ExpectDialerGone() {
     WaitUntilGone "$dialerWindow" "$dialerScreen"
 }
 
-# When the number is through, the keys are on the button for the receiver in hand; before that, Enter
-# has nothing to press.
+# The dialer's picture, as a checksum.
+Picture() {
+    import -window "$dialerWindow" rgb:- | sha256sum
+}
+
+# The picture when nothing is painted any more.
+PictureAtRest() {
+    local before='' now i
+    for ((i = 0; i < 10 * secondsToWait; i++)); do
+        now=$(Picture)
+        if [[ $now == "$before" ]]; then
+            printf '%s\n' "$now"
+            return
+        fi
+        before=$now
+        sleep 0.2
+    done
+    FailDay 'the dialer does not come to rest.'
+}
+
+# WaitForOtherPicture PICTURE
+WaitForOtherPicture() {
+    local i
+    for ((i = 0; i < 10 * secondsToWait; i++)); do
+        [[ $(Picture) == "$1" ]] || return 0
+        sleep 0.1
+    done
+    FailDay 'the dialer does not show that the number is through.'
+}
+
+# When the number is through, the dialer shows it, and the keys are on the button for the receiver in
+# hand; before that, Enter has nothing to press.
 CallAndTalk() {
+    local dialing
+    : >"$dayFolder/hold"
     Press "$dialerWindow" alt+d
     ExpectHeard "ATDT$1;"
     Keys Return
-    sleep 1.5
+    dialing=$(PictureAtRest)
+    ExpectHeard
+    rm "$dayFolder/hold"
+    WaitForOtherPicture "$dialing"
     Keys Return
     ExpectDialerGone
     ExpectHeard ATH

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "platform/DesktopSerialPort.h"
+#include "support/PlayedModem.h"
+
+#include <QTest>
 
 #include <map>
 
@@ -17,5 +20,9 @@ protected:
     void OpenPort(qint16 number) {
         port.SetCommPort(number);
         port.Open();
+    }
+    /// The modem comes to have heard these bytes, and no others.
+    static bool HasHeard(const PlayedModem& modem, const QByteArray& bytes) {
+        return QTest::qWaitFor([&] { return modem.Heard() == bytes; });
     }
 };

@@ -1,24 +1,14 @@
-#include "support/PlayedModem.h"
 #include "support/PlayedPorts.h"
+#include "support/ProcessorTime.h"
 #include "support/TextOutput.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-double ProcessorSeconds() {
-    rusage usage{};
-    EXPECT_EQ(::getrusage(RUSAGE_THREAD, &usage), 0);
-    constexpr double microseconds = 1e6;
-    return double(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
-           double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / microseconds;
-}
 
 /// Half a second in the event loop takes next to no processor.
 void ExpectRest() {
@@ -43,9 +33,6 @@ protected:
     bool Receives(const QByteArray& bytes) {
         return QTest::qWaitFor([&] { return port.InBufferCount() == bytes.size(); }) &&
                port.Input() == bytes;
-    }
-    static bool HasHeard(const PlayedModem& modem, const QByteArray& bytes) {
-        return QTest::qWaitFor([&] { return modem.Heard() == bytes; });
     }
 };
 
@@ -170,6 +157,21 @@ TEST_F(DesktopSerialPortTest, SendingToADeviceThatHasJustVanishedEndsWithAClosed
     modem.Vanish();
     PassOver([this] { port.Output("ATDT5550100;\r"); });
     EXPECT_TRUE(QTest::qWaitFor([this] { return !port.PortOpen(); }));
+}
+
+TEST_F(DesktopSerialPortTest, ErrorOfTheOpeningBeforeLeavesTheNextOneOpen) {
+    PlayedModem modem(PlayedModem::Silence);
+    const PlayedModem next(PlayedModem::Silence);
+    devices = {{1, modem.Device()}, {2, next.Device()}};
+    OpenPort(1);
+    modem.Vanish();
+    PassOver([this] { port.Output("AT\r"); });
+    port.Close();
+    OpenPort(2);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(port.PortOpen());
+    next.Say("OK");
+    EXPECT_TRUE(Receives("OK"));
 }
 
 TEST_F(DesktopSerialPortTest, NumberStaysWhileThePortIsOpen) {

@@ -1,12 +1,9 @@
 #include "telephone/Dialer.h"
 
+#include "support/LoopPort.h"
 #include "support/OfficeTest.h"
-#include "support/PlayedModem.h"
 #include "support/PlayedPorts.h"
-
-#include <QTest>
-
-#include <sys/resource.h>
+#include "support/ProcessorTime.h"
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -21,14 +18,6 @@ const QString pickUp = u"Pickup Receiver - Then Click Hangup"_s;
 /// Milliseconds in which what is going to happen has happened.
 constexpr int whileAfter = 400;
 
-double ProcessorSeconds() {
-    rusage usage{};
-    EXPECT_EQ(::getrusage(RUSAGE_THREAD, &usage), 0);
-    constexpr double microseconds = 1e6;
-    return double(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) +
-           double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / microseconds;
-}
-
 } // namespace
 
 /// A dialer for Corner Dairy, with a modem on port 3 that keeps silent until it is told how to
@@ -42,9 +31,6 @@ protected:
         dialer.SetRecipient(u"Corner Dairy"_s, u"217-555-0100"_s);
     }
 
-    bool HasHeard(const QByteArray& bytes) const {
-        return QTest::qWaitFor([&] { return modem.Heard() == bytes; });
-    }
     bool IsDialed() const {
         return QTest::qWaitFor([this] { return timesDialed > 0; });
     }
@@ -65,7 +51,7 @@ protected:
         dialer.SetRecipient(u"Corner Dairy"_s, number);
         dialer.cmdNewDial_Click();
         EXPECT_EQ(dialer.lblStatus, u"Dialing..... "_s + number);
-        EXPECT_TRUE(HasHeard(bytes)) << modem.Heard().toStdString();
+        EXPECT_TRUE(HasHeard(modem, bytes)) << modem.Heard().toStdString();
     }
 
     void FillFour() {
@@ -152,7 +138,7 @@ TEST_F(DialerTest, NumberGoesOutBetweenTheCommandAndASemicolon) {
     DialWith(PlayedModem::Silence);
     EXPECT_EQ(dialer.State, CallState::Dialing);
     EXPECT_EQ(dialer.lblStatus, u"Dialing..... 217-555-0100"_s);
-    EXPECT_TRUE(HasHeard("ATDT217-555-0100;\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT217-555-0100;\r"));
 }
 
 TEST_F(DialerTest, OkBringsTheReceiver) {
@@ -166,28 +152,6 @@ TEST_F(DialerTest, OkBringsTheReceiver) {
 TEST_F(DialerTest, OkThatComesLateCountsAsWell) {
     DialWith([](const QByteArray&) { return Pieces{{700ms, "\r\nOK\r\n"}}; });
     ExpectStillDialing();
-    EXPECT_TRUE(IsDialed());
-}
-
-TEST_F(DialerTest, OkThatComesByteByByteAsOnALineIsRecognised) {
-    DialWith([](const QByteArray&) {
-        Pieces bytes;
-        for (const char byte : QByteArray("ATDT217-555-0100;\r\r\nOK\r\n"))
-            bytes.push_back({1ms, QByteArray(1, byte)});
-        return bytes;
-    });
-    EXPECT_TRUE(IsDialed());
-}
-
-TEST_F(DialerTest, OkSplitAcrossTwoReadsIsNotRecognised) {
-    DialWith([](const QByteArray&) { return Pieces{{0ms, "\r\nO"}, {250ms, "K\r\n"}}; });
-    ExpectStillDialing();
-    modem.Say("\r\nOK\r\n");
-    EXPECT_TRUE(IsDialed());
-}
-
-TEST_F(DialerTest, SingleByteIsNotReadAndBelongsToTheNextReply) {
-    DialWith([](const QByteArray&) { return Pieces{{0ms, "O"}, {250ms, "K"}}; });
     EXPECT_TRUE(IsDialed());
 }
 
@@ -211,14 +175,6 @@ TEST_F(DialerTest, CommandSaidBackCountsWhenTheNumberHasOkInIt) {
     EXPECT_TRUE(IsDialed());
 }
 
-TEST_F(DialerTest, WhatCameInBeforeTheDialIsForgotten) {
-    dialer.Load();
-    modem.Say("\r\nOK\r\n");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return port.InBufferCount() > 0; }));
-    dialer.cmdNewDial_Click();
-    ExpectStillDialing();
-}
-
 TEST_F(DialerTest, DialingThatNeverEndsTakesNoProcessorAndLetsEventsRun) {
     int ticks = 0;
     QTimer ticker;
@@ -236,7 +192,7 @@ TEST_F(DialerTest, ReceiverInHandHangsUpTheModemAndClosesThePort) {
     DialWith(PlayedModem::Ok);
     EXPECT_TRUE(IsDialed());
     dialer.cmdCancel_Click();
-    EXPECT_TRUE(HasHeard("ATDT217-555-0100;\rATH\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT217-555-0100;\rATH\r"));
     EXPECT_EQ(dialer.State, CallState::Ready);
     EXPECT_EQ(dialer.lblStatus, ready);
     EXPECT_FALSE(port.PortOpen());
@@ -247,7 +203,7 @@ TEST_F(DialerTest, HangUpInTheMiddleOfDialingEndsTheWait) {
         return command == "ATH" ? Pieces{} : Pieces{{200ms, "OK"}};
     });
     dialer.HangUp();
-    EXPECT_TRUE(HasHeard("ATDT217-555-0100;\rATH\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT217-555-0100;\rATH\r"));
     EXPECT_FALSE(port.PortOpen());
     QTest::qWait(whileAfter);
     EXPECT_EQ(timesDialed, 0);
@@ -257,7 +213,7 @@ TEST_F(DialerTest, HangUpInTheMiddleOfDialingEndsTheWait) {
 TEST_F(DialerTest, HangUpBeforeDialingIsSentAsWell) {
     dialer.Load();
     dialer.HangUp();
-    EXPECT_TRUE(HasHeard("ATH\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATH\r"));
     EXPECT_FALSE(port.PortOpen());
 }
 
@@ -269,7 +225,7 @@ TEST_F(DialerTest, NextCallOpensThePortAgain) {
     EXPECT_TRUE(port.PortOpen());
     dialer.cmdNewDial_Click();
     EXPECT_TRUE(QTest::qWaitFor([this] { return timesDialed == 2; }));
-    EXPECT_TRUE(HasHeard("ATDT217-555-0100;\rATH\rATDT217-555-0100;\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT217-555-0100;\rATH\rATDT217-555-0100;\r"));
 }
 
 TEST_F(DialerTest, WithoutAPortTheStatusStaysAtDialing) {
@@ -282,7 +238,7 @@ TEST_F(DialerTest, WithoutAPortTheStatusStaysAtDialing) {
 
 TEST_F(DialerTest, ModemThatVanishesWhileItDialsLeavesTheStatusAndTheHangUp) {
     DialWith(PlayedModem::Silence);
-    EXPECT_TRUE(HasHeard("ATDT217-555-0100;\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT217-555-0100;\r"));
     modem.Vanish();
     const double before = ProcessorSeconds();
     ExpectStillDialing();
@@ -294,6 +250,18 @@ TEST_F(DialerTest, ModemThatVanishesWhileItDialsLeavesTheStatusAndTheHangUp) {
     dialer.Load();
     dialer.cmdNewDial_Click();
     EXPECT_TRUE(IsDialed());
+}
+
+TEST_F(DialerTest, ModemThatVanishesBeforeTheReceiverIsInHandLeavesTheEndOfTheCall) {
+    DialWith(PlayedModem::Ok);
+    EXPECT_TRUE(IsDialed());
+    modem.Vanish();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !port.PortOpen(); }));
+    dialer.cmdCancel_Click();
+    EXPECT_EQ(dialer.State, CallState::Ready);
+    EXPECT_EQ(dialer.lblStatus, ready);
+    EXPECT_FALSE(port.PortOpen());
+    EXPECT_EQ(modem.Heard(), "ATDT217-555-0100;\r");
 }
 
 TEST_F(DialerTest, ModemThatMayNotBeOpenedLeavesTheStatusAtDialing) {
@@ -336,7 +304,7 @@ TEST_F(DialerTest, TickingThePrefixTwiceLeavesTheNumberUnchanged) {
 TEST_F(DialerTest, PrefixIsDialed) {
     dialer.ckDial1_Click(true);
     DialWith(PlayedModem::Silence);
-    EXPECT_TRUE(HasHeard("ATDT1-217-555-0100;\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT1-217-555-0100;\r"));
 }
 
 TEST_F(DialerTest, PrefixIsPutInFrontOfOneThatIsThere) {
@@ -351,6 +319,13 @@ TEST_F(DialerTest, ClearingThePrefixStripsOneThatTheBoxHasNotPutThere) {
     EXPECT_EQ(dialer.lblNumber, u"217"_s);
     dialer.ckDial1_Click(false);
     EXPECT_EQ(dialer.lblNumber, u"217"_s);
+}
+
+TEST_F(DialerTest, EntryChosenWithThePrefixTickedComesWithItsBareNumber) {
+    FillFour();
+    dialer.ckDial1_Click(true);
+    dialer.cmdDialer_Click(2);
+    EXPECT_EQ(dialer.lblNumber, u"3"_s);
 }
 
 // Speed dial.
@@ -397,6 +372,31 @@ TEST_F(DialerTest, RestoreBringsBackTheRecipientBeforeTheLastChoice) {
     dialer.RestoreRecipient();
     EXPECT_EQ(dialer.lblName, u"Ann"_s);
     EXPECT_EQ(dialer.lblNumber, u"1"_s);
+}
+
+TEST_F(DialerTest, RestoreAfterAnEmptyButtonBringsBackWhomItWasPressedOver) {
+    FillFour();
+    dialer.cmdDialer_Click(7);
+    dialer.RestoreRecipient();
+    EXPECT_EQ(dialer.lblName, u"Corner Dairy"_s);
+    EXPECT_EQ(dialer.lblNumber, u"217-555-0100"_s);
+    dialer.cmdDialer_Click(2);
+    dialer.cmdDialer_Click(7);
+    dialer.RestoreRecipient();
+    EXPECT_EQ(dialer.lblName, u"Cyd"_s);
+    EXPECT_EQ(dialer.lblNumber, u"3"_s);
+}
+
+TEST_F(DialerTest, DeleteStaysAsItIsAfterARestoreAndAfterASave) {
+    FillFour();
+    for (const auto& [slot, isOpen] : {std::pair(size_t(2), true), std::pair(size_t(7), false)}) {
+        dialer.cmdDialer_Click(slot);
+        dialer.RestoreRecipient();
+        EXPECT_EQ(dialer.IsEntryChosen, isOpen) << slot;
+        dialer.txtDialer = {u"Eve"_s, u"5"_s};
+        dialer.SaveEntry();
+        EXPECT_EQ(dialer.IsEntryChosen, isOpen) << slot;
+    }
 }
 
 TEST_F(DialerTest, RestoreBeforeAnyChoiceLeavesNobodyToCall) {
@@ -472,6 +472,16 @@ TEST_F(DialerTest, DeletingEntry2Of4MovesEntries3And4ToButtons2And3) {
     EXPECT_EQ(folder.Read(speedFile), "Ann\r\n1\r\nCyd\r\n3\r\nDan\r\n4\r\n");
 }
 
+TEST_F(DialerTest, DeletedEntryIsStillTheOneWhoIsCalled) {
+    FillFour();
+    dialer.cmdDialer_Click(1);
+    user.ExpectQuestion(u"This will delete SpeedDial entry  Ben\nAre you Sure"_s,
+                        u"Delete Speed Dial"_s, Answer::Yes);
+    dialer.DeleteEntry();
+    EXPECT_EQ(dialer.lblName, u"Ben"_s);
+    EXPECT_EQ(dialer.lblNumber, u"2"_s);
+}
+
 TEST_F(DialerTest, EntryThatHasComeUpCanBeDeletedNext) {
     FillFour();
     dialer.cmdDialer_Click(1);
@@ -519,4 +529,67 @@ TEST_F(DialerTest, ReplyThatComesWhileTheQuestionIsOpenCounts) {
                         u"Delete Speed Dial"_s, Answer::No);
     dialer.DeleteEntry();
     EXPECT_EQ(dialer.lblStatus, pickUp);
+}
+
+/// What counts as a reply, on a port where time is kept to the millisecond.
+class DialerReplyTest : protected LoopPorts, public OfficeTest {
+protected:
+    DialerReplyTest() : OfficeTest(port) {
+        port.Devices[3] = PlayedModem::Silence;
+        office.settings.txtModemPort = u"3"_s;
+        dialer.SetRecipient(u"Corner Dairy"_s, u"217-555-0100"_s);
+    }
+
+    void DialWith(const PlayedModem::Answers& answers) {
+        port.Devices[3] = answers;
+        dialer.Load();
+        dialer.cmdNewDial_Click();
+    }
+    /// The dialer has taken all that has come in.
+    bool HasRead() {
+        return QTest::qWaitFor([this] { return port.InBufferCount() == 0; });
+    }
+    bool IsDialed() {
+        return QTest::qWaitFor([this] { return dialer.State == CallState::WaitingForReceiver; });
+    }
+
+    Dialer& dialer = office.dialer;
+};
+
+TEST_F(DialerReplyTest, OkThatComesByteByByteAsOnALineIsRecognised) {
+    DialWith([](const QByteArray&) {
+        Pieces bytes;
+        for (const char byte : QByteArray("ATDT217-555-0100;\r\r\nOK\r\n"))
+            bytes.push_back({1ms, QByteArray(1, byte)});
+        return bytes;
+    });
+    EXPECT_TRUE(IsDialed());
+}
+
+TEST_F(DialerReplyTest, OkSplitAcrossTwoReadsIsNotRecognised) {
+    DialWith(PlayedModem::Silence);
+    for (const char* half : {"\r\nO", "K\r\n"}) {
+        port.Say(half);
+        EXPECT_TRUE(HasRead());
+        EXPECT_EQ(dialer.State, CallState::Dialing);
+    }
+    port.Say("\r\nOK\r\n");
+    EXPECT_TRUE(IsDialed());
+}
+
+TEST_F(DialerReplyTest, SingleByteIsNotReadAndBelongsToTheNextReply) {
+    // The second byte comes long after the look at the first.
+    DialWith([](const QByteArray&) { return Pieces{{0ms, "O"}, {250ms, "K"}}; });
+    EXPECT_TRUE(IsDialed());
+}
+
+TEST_F(DialerReplyTest, WhatCameInBeforeTheDialIsForgotten) {
+    dialer.Load();
+    port.Say("\r\nOK\r\n");
+    port.Devices[3] = [](const QByteArray& command) { return Pieces{{0ms, command + '\r'}}; };
+    dialer.cmdNewDial_Click();
+    // The modem says the number back, and that alone is the reply.
+    EXPECT_TRUE(QTest::qWaitFor([this] { return port.InBufferCount() > 0; }));
+    EXPECT_TRUE(HasRead());
+    EXPECT_EQ(dialer.State, CallState::Dialing);
 }

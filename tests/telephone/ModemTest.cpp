@@ -1,13 +1,14 @@
 #include "telephone/Modem.h"
 
+#include "support/LoopPort.h"
 #include "support/OfficeTest.h"
-#include "support/PlayedModem.h"
 #include "support/PlayedPorts.h"
 
-#include <QTest>
+#include <QElapsedTimer>
 #include <QTimer>
 
 #include <array>
+#include <limits>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
@@ -28,10 +29,6 @@ protected:
 
     RuntimeFailure FailureOfSetUp() {
         return FailureOf([&] { office.modem.SetUpModem(); });
-    }
-
-    static bool HasHeard(const PlayedModem& modem, const QByteArray& bytes) {
-        return QTest::qWaitFor([&] { return modem.Heard() == bytes; });
     }
 
     void ExpectFound(qint16 number) {
@@ -104,6 +101,15 @@ TEST_F(ModemTest, TickedPhoneTakesEffectInTheFileOnlyWithASave) {
     EXPECT_EQ(folder.Read(phone), "#FALSE#\r\n1\r\n");
 }
 
+TEST_F(ModemTest, TickedPhoneTakesEffectInTheFileWithTheNextLoadToo) {
+    folder.Write(phone, "#FALSE#\r\n5\r\n");
+    live.ckPhone = true;
+    office.modem.SetUpModem();
+    EXPECT_EQ(folder.Read(phone), "#TRUE#\r\n5\r\n");
+    EXPECT_TRUE(live.ckPhone);
+    EXPECT_TRUE(live.PhoneDaisyChained);
+}
+
 TEST_F(ModemTest, WritingDeletesTheBackupCopy) {
     folder.Write(phone, "#TRUE#\r\n5\r\n");
     folder.Write(copyOfPhone, "#FALSE#\r\n9\r\n");
@@ -126,6 +132,9 @@ TEST_F(ModemTest, CallerIdOnShowsItsLabelAndOffLeavesIt) {
     office.modem.SetUpModem();
     EXPECT_FALSE(live.lblCallid);
     live.CallerIdOn = true;
+    office.modem.SetUpModem();
+    EXPECT_TRUE(live.lblCallid);
+    live.CallerIdOn = false;
     office.modem.SetUpModem();
     EXPECT_TRUE(live.lblCallid);
 }
@@ -162,7 +171,7 @@ TEST_F(ModemTest, ModemThatAnswersAtOnceIsFoundAndItsPortIsLeftOpenWithCallerIdO
 }
 
 TEST_F(ModemTest, EachOfSixteenPortsIsAsked) {
-    for (const qint16 number : std::initializer_list<qint16>{1, 2, 15, 16}) {
+    for (qint16 number = 1; number <= 16; ++number) {
         const PlayedModem modem;
         devices = {{number, modem.Device()}};
         office.modem.SetUpModem();
@@ -204,16 +213,24 @@ TEST_F(ModemTest, SixteenSilentPortsAreAskedOnceEachAndTheFirstIsLeftOpen) {
         EXPECT_TRUE(HasHeard(silent[i], "AT\r")) << i;
 }
 
-TEST_F(ModemTest, ModemOnTheLastPortIsFoundBehindFifteenSilentOnes) {
-    std::array<PlayedModem, SerialPort::lastPort> modems;
-    for (qint16 number = SerialPort::firstPort; PlayedModem & modem : modems) {
-        if (number < SerialPort::lastPort)
-            modem.SetAnswers(PlayedModem::Silence);
+TEST_F(ModemTest, SixteenSilentPortsTakeLessThanHalfASecond) {
+    std::array<PlayedModem, SerialPort::lastPort> silent;
+    for (qint16 number = SerialPort::firstPort; PlayedModem & modem : silent) {
+        modem.SetAnswers(PlayedModem::Silence);
         devices[number++] = modem.Device();
     }
-    office.modem.SetUpModem();
-    ExpectFound(16);
-    EXPECT_TRUE(HasHeard(modems.back(), "AT\rAT#CID=1\r"));
+    // A busy machine takes longer now and then, but not every time.
+    qint64 shortest = std::numeric_limits<qint64>::max();
+    for (int times = 0; times < 50 && shortest >= 500; ++times) {
+        port.Close();
+        QElapsedTimer time;
+        time.start();
+        office.modem.SetUpModem();
+        shortest = std::min(shortest, time.elapsed());
+    }
+    EXPECT_LT(shortest, 500);
+    // All of them have been asked.
+    EXPECT_TRUE(QTest::qWaitFor([&silent] { return silent.back().Heard().startsWith("AT\r"); }));
 }
 
 TEST_F(ModemTest, ModemThatVanishesInTheMiddleOfTheSearchIsPassedOver) {
@@ -302,7 +319,18 @@ TEST_F(ModemTest, PortThatIsOpenAlreadyIsNotAskedAndNotChanged) {
     EXPECT_TRUE(HasHeard(modem, "AT#CID=1\r"));
 }
 
-TEST_F(ModemTest, AnswerToTheSearchIsForgottenAndReportsAfterItAreLeftUnread) {
+TEST_F(ModemTest, WhatLiesUnreadInAnOpenPortIsForgotten) {
+    const PlayedModem modem(PlayedModem::Silence);
+    devices = {{3, modem.Device()}};
+    OpenPort(3);
+    modem.Say("\r\nRING\r\n");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return port.InBufferCount() == 8; }));
+    office.modem.SetUpModem();
+    EXPECT_EQ(port.InBufferCount(), 0);
+    EXPECT_TRUE(HasHeard(modem, "AT#CID=1\r"));
+}
+
+TEST_F(ModemTest, ReportsOfTheModemAreLeftUnread) {
     const PlayedModem modem([](const QByteArray& command) {
         return command == "AT" ? PlayedModem::Ok(command) : PlayedModem::Silence(command);
     });
@@ -350,6 +378,58 @@ TEST_F(ModemTest, ModemThatVanishesAfterTheSearchLeavesAClosedPortAndTheNextSear
     devices = {{7, next.Device()}};
     office.modem.SetUpModem();
     ExpectFound(7);
+}
+
+// The search on ports where time is kept to the millisecond.
+
+class ModemSearchTest : protected LoopPorts, public OfficeTest {
+protected:
+    ModemSearchTest() : OfficeTest(port) { folder.Remove(phone); }
+
+    /// Silent devices on the first fifteen ports, and on the last a modem that answers after a
+    /// time.
+    void PutModemLast(std::chrono::milliseconds timeToAnswer) {
+        for (qint16 number = 1; number <= 15; ++number)
+            port.Devices[number] = PlayedModem::Silence;
+        port.Devices[16] = [timeToAnswer](const QByteArray& command) {
+            std::vector<PlayedModem::Piece> answer = PlayedModem::Ok(command);
+            answer.front().pause = timeToAnswer;
+            return answer;
+        };
+    }
+    /// Every port was asked, and the last is the modem's.
+    void ExpectFoundLast() {
+        EXPECT_EQ(office.settings.txtModemPort, u"16"_s);
+        EXPECT_EQ(port.CommPort(), 16);
+        EXPECT_TRUE(port.PortOpen());
+        for (qint16 number = 1; number <= 15; ++number)
+            EXPECT_EQ(port.Heard(number), "AT\r") << number;
+        EXPECT_EQ(port.Heard(16), "AT\rAT#CID=1\r");
+    }
+};
+
+TEST_F(ModemSearchTest, ModemOnTheLastPortIsFoundBehindFifteenSilentOnes) {
+    PutModemLast(0ms);
+    office.modem.SetUpModem();
+    ExpectFoundLast();
+}
+
+TEST_F(ModemSearchTest, PortBehindSlowOnesHasTheTimeOfAModemOnUsb) {
+    // The opening of the ports takes all the time there is for the search.
+    port.TimeToOpen = 30ms;
+    PutModemLast(21ms);
+    office.modem.SetUpModem();
+    ExpectFoundLast();
+}
+
+TEST_F(ModemSearchTest, AnswerToTheSearchIsForgotten) {
+    port.Devices[1] = [](const QByteArray& command) {
+        return command == "AT" ? PlayedModem::Ok(command) : PlayedModem::Silence(command);
+    };
+    office.modem.SetUpModem();
+    EXPECT_EQ(office.settings.txtModemPort, u"1"_s);
+    EXPECT_EQ(port.Heard(1), "AT\rAT#CID=1\r");
+    EXPECT_EQ(port.InBufferCount(), 0);
 }
 
 // Bad input.

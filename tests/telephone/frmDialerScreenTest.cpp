@@ -1,6 +1,5 @@
 #include "customers/CustomerScreen.h"
 #include "startup/StartUp.h"
-#include "support/PlayedModem.h"
 #include "support/PlayedPorts.h"
 
 #include <QCheckBox>
@@ -73,11 +72,15 @@ protected:
             captions.removeLast();
         return captions;
     }
+    /// The close box, with what the end of the program does to the screen.
+    void CloseProgram() {
+        CloseByUser(dialerScreen);
+        EXPECT_EQ(exitRequests, 1);
+        screens.Destroy(dialerScreen);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
     bool Shows(const QString& status) {
         return QTest::qWaitFor([&] { return LabelText(u"lblStatus"_s) == status; });
-    }
-    bool HasHeard(const QByteArray& bytes) const {
-        return QTest::qWaitFor([&] { return modem.Heard() == bytes; });
     }
 
     PlayedModem modem;
@@ -87,7 +90,7 @@ TEST_F(DialerScreen, StartFindsTheModemAndACustomerIsCalledFromHisScreen) {
     port.Close();
     WriteCustomers({SampleCustomer{}});
     Main(office, screens);
-    EXPECT_TRUE(HasHeard("AT\rAT#CID=1\r"));
+    EXPECT_TRUE(HasHeard(modem, "AT\rAT#CID=1\r"));
     screens.Destroy(ScreenName::frmSplash);
     Open(2);
     Call();
@@ -96,7 +99,7 @@ TEST_F(DialerScreen, StartFindsTheModemAndACustomerIsCalledFromHisScreen) {
     ClickOn(u"cmdNewDial"_s);
     EXPECT_TRUE(Shows(pickUp));
     ClickOn(u"cmdCancel"_s);
-    EXPECT_TRUE(HasHeard("AT\rAT#CID=1\rATDT217-555-0199;\rATH\r"));
+    EXPECT_TRUE(HasHeard(modem, "AT\rAT#CID=1\rATDT217-555-0199;\rATH\r"));
     EXPECT_FALSE(IsShown(dialerScreen));
     EXPECT_TRUE(IsShown(customerScreen));
 }
@@ -151,11 +154,13 @@ TEST_F(DialerScreen, PersonIsCalledByHisFullName) {
     EXPECT_EQ(LabelText(u"lblNumber"_s), u"217-555-0199"_s);
 }
 
-TEST_F(DialerScreen, NumberIsCalledAsItStandsOnTheScreenAndIsNotSaved) {
+TEST_F(DialerScreen, NameAndNumberAreThoseOnTheScreenAndAreNotSaved) {
     OpenThree();
     const QByteArray before = CustomerOnDisk(1);
+    Enter(1, u"Corner Shop"_s);
     Enter(6, u"555-0123"_s);
     Call();
+    EXPECT_EQ(LabelText(u"lblName"_s), u"Corner Shop"_s);
     EXPECT_EQ(LabelText(u"lblNumber"_s), u"555-0123"_s);
     EXPECT_EQ(CustomerOnDisk(1), before);
 }
@@ -175,7 +180,7 @@ TEST_F(DialerScreen, CallGoesFromReadyOverDialingToTheReceiverAndEndsWithTheScre
     EXPECT_FALSE(IsEnabled(u"cmdNewDial"_s));
     EXPECT_EQ(FocusedOn(), u"cmdCancel"_s);
     ClickOn(u"cmdCancel"_s);
-    EXPECT_TRUE(HasHeard("ATDT217-555-0199;\rATH\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT217-555-0199;\rATH\r"));
     EXPECT_FALSE(port.PortOpen());
     EXPECT_EQ(screens.Find(dialerScreen), nullptr);
     EXPECT_TRUE(IsShown(customerScreen));
@@ -188,7 +193,7 @@ TEST_F(DialerScreen, HangUpInTheMiddleOfDialingEndsTheCallAndTheScreen) {
     QTest::qWait(100);
     EXPECT_EQ(LabelText(u"lblStatus"_s), u"Dialing..... 217-555-0199"_s);
     ClickOn(u"cmdHangup"_s);
-    EXPECT_TRUE(HasHeard("ATDT217-555-0199;\rATH\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT217-555-0199;\rATH\r"));
     EXPECT_FALSE(port.PortOpen());
     EXPECT_EQ(screens.Find(dialerScreen), nullptr);
     modem.Say("\r\nOK\r\n");
@@ -212,7 +217,7 @@ TEST_F(DialerScreen, NextCallIsReadyAgainAndGoesOut) {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     ClickOn(u"cmdNewDial"_s);
     EXPECT_TRUE(Shows(pickUp));
-    EXPECT_TRUE(HasHeard("ATDT1-217-555-0199;\rATH\rATDT217-555-0199;\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT1-217-555-0199;\rATH\rATDT217-555-0199;\r"));
 }
 
 TEST_F(DialerScreen, ScreenBeforeThatGoesLateLeavesTheNextCallAlone) {
@@ -225,18 +230,31 @@ TEST_F(DialerScreen, ScreenBeforeThatGoesLateLeavesTheNextCallAlone) {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(LabelText(u"lblStatus"_s), u"Dialing..... 217-555-0199"_s);
     EXPECT_TRUE(port.PortOpen());
-    EXPECT_TRUE(HasHeard("ATDT217-555-0199;\rATH\rATDT217-555-0199;\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT217-555-0199;\rATH\rATDT217-555-0199;\r"));
 }
 
 TEST_F(DialerScreen, ProgramThatEndsInTheMiddleOfDialingHangsUp) {
     modem.SetAnswers(PlayedModem::Silence);
     OpenAndCall();
     ClickOn(u"cmdNewDial"_s);
-    CloseByUser(dialerScreen);
-    EXPECT_EQ(exitRequests, 1);
-    screens.Destroy(dialerScreen);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_TRUE(HasHeard("ATDT217-555-0199;\rATH\r"));
+    CloseProgram();
+    EXPECT_TRUE(HasHeard(modem, "ATDT217-555-0199;\rATH\r"));
+    EXPECT_FALSE(port.PortOpen());
+}
+
+TEST_F(DialerScreen, ProgramThatEndsBeforeTheDialHangsUp) {
+    OpenAndCall();
+    CloseProgram();
+    EXPECT_TRUE(HasHeard(modem, "ATH\r"));
+    EXPECT_FALSE(port.PortOpen());
+}
+
+TEST_F(DialerScreen, ProgramThatEndsBeforeTheReceiverIsInHandHangsUp) {
+    OpenAndCall();
+    ClickOn(u"cmdNewDial"_s);
+    EXPECT_TRUE(Shows(pickUp));
+    CloseProgram();
+    EXPECT_TRUE(HasHeard(modem, "ATDT217-555-0199;\rATH\r"));
     EXPECT_FALSE(port.PortOpen());
 }
 
@@ -268,7 +286,7 @@ TEST_F(DialerScreen, WholeCallByKeys) {
     QTest::keyClick(dialer, Qt::Key_D, Qt::AltModifier);
     EXPECT_TRUE(Shows(pickUp));
     QTest::keyClick(dialer, Qt::Key_C, Qt::AltModifier);
-    EXPECT_TRUE(HasHeard("ATDT217-555-0199;\rATH\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT217-555-0199;\rATH\r"));
     EXPECT_EQ(screens.Find(dialerScreen), nullptr);
 }
 
@@ -279,7 +297,7 @@ TEST_F(DialerScreen, SecondPressOfEnterAfterTheDialHangsNothingUp) {
     Press(On(FocusedOn()), Qt::Key_Return);
     Press(On(FocusedOn()), Qt::Key_Return);
     EXPECT_TRUE(IsShown(dialerScreen));
-    EXPECT_TRUE(HasHeard("ATDT217-555-0199;\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT217-555-0199;\r"));
 }
 
 TEST_F(DialerScreen, EscapeLeavesTheFieldsFirstAndThenTheScreen) {
@@ -289,7 +307,7 @@ TEST_F(DialerScreen, EscapeLeavesTheFieldsFirstAndThenTheScreen) {
     EXPECT_FALSE(On(u"fraSpeedDial"_s)->isVisible());
     EXPECT_TRUE(IsShown(dialerScreen));
     Press(screens.Find(dialerScreen), Qt::Key_Escape);
-    EXPECT_TRUE(HasHeard("ATH\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATH\r"));
     EXPECT_EQ(screens.Find(dialerScreen), nullptr);
 }
 
@@ -381,6 +399,25 @@ TEST_F(DialerScreen, FocusGoesToTheButtonOfTheEntryWhenItsDeletionIsRefusedAndSt
     }
 }
 
+TEST_F(DialerScreen,
+       FocusStaysOnTheReceiverWhenTheAnswerComesDuringTheQuestionAndTheDeletionIsRefused) {
+    modem.SetAnswers(PlayedModem::Silence);
+    OpenWithEntries();
+    ClickOn(u"cmdDialer(1)"_s);
+    ClickOn(u"cmdNewDial"_s);
+    EXPECT_TRUE(HasHeard(modem, "ATDT2;\r"));
+    user.WhileMessageIsOpen = [this] {
+        modem.Say("\r\nOK\r\n");
+        EXPECT_TRUE(Shows(pickUp));
+    };
+    user.ExpectQuestion(u"This will delete SpeedDial entry  Ben & Co\nAre you Sure"_s,
+                        u"Delete Speed Dial"_s, Answer::No);
+    On(u"cmdSpeedDialer(2)"_s)->setFocus();
+    Press(On(u"cmdSpeedDialer(2)"_s), Qt::Key_Space);
+    EXPECT_FALSE(IsEnabled(u"cmdSpeedDialer(2)"_s));
+    EXPECT_EQ(FocusedOn(), u"cmdCancel"_s);
+}
+
 TEST_F(DialerScreen, CancelledEntryIsBlankTheNextTime) {
     OpenAndCall();
     ClickOn(u"cmdDialer(0)"_s);
@@ -414,7 +451,7 @@ TEST_F(DialerScreen, EntryIsCalledAndTheRecipientRestored) {
     EXPECT_EQ(LabelText(u"lblNumber"_s), u"217-555-0199"_s);
     ClickOn(u"cmdDialer(3)"_s);
     ClickOn(u"cmdNewDial"_s);
-    EXPECT_TRUE(HasHeard("ATDT4;\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT4;\r"));
 }
 
 TEST_F(DialerScreen, DeletedEntryClosesUp) {
@@ -457,7 +494,7 @@ TEST_F(DialerScreen, AnotherEntryCanBeChosenWhileTheModemDials) {
     EXPECT_EQ(LabelText(u"lblNumber"_s), u"4"_s);
     EXPECT_EQ(LabelText(u"lblStatus"_s), u"Dialing..... 217-555-0199"_s);
     EXPECT_FALSE(IsEnabled(u"cmdNewDial"_s));
-    EXPECT_TRUE(HasHeard("ATDT217-555-0199;\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT217-555-0199;\r"));
 }
 
 TEST_F(DialerScreen, IncomingCallShowsNowhere) {
@@ -509,7 +546,7 @@ TEST_F(DialerScreen, PastedLineBreakMakesNeitherASecondCommandNorASecondLine) {
     EXPECT_EQ(folder.Read(speedFile), "Ann\r\n555-0100 ATH  ATDT900;\r\n");
     ClickOn(u"cmdDialer(0)"_s);
     ClickOn(u"cmdNewDial"_s);
-    EXPECT_TRUE(HasHeard("ATDT555-0100 ATH  ATDT900;;\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT555-0100 ATH  ATDT900;;\r"));
 }
 
 TEST_F(DialerScreen, BareCarriageReturnInTheFileMakesNoSecondCommand) {
@@ -517,7 +554,7 @@ TEST_F(DialerScreen, BareCarriageReturnInTheFileMakesNoSecondCommand) {
     OpenAndCall();
     ClickOn(u"cmdDialer(0)"_s);
     ClickOn(u"cmdNewDial"_s);
-    EXPECT_TRUE(HasHeard("ATDT555ATH;\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATDT555ATH;\r"));
 }
 
 TEST_F(DialerScreen, EntryOfAThousandCharactersLeavesTheScreenItsSize) {
@@ -532,7 +569,7 @@ TEST_F(DialerScreen, EntryOfAThousandCharactersLeavesTheScreenItsSize) {
     EXPECT_EQ(LabelText(u"lblName"_s), QString(1000, u'n'));
     EXPECT_EQ(screens.Find(dialerScreen)->minimumSizeHint().width(), width);
     ClickOn(u"cmdNewDial"_s);
-    EXPECT_TRUE(HasHeard("ATH\rATDT" + number + ";\r"));
+    EXPECT_TRUE(HasHeard(modem, "ATH\rATDT" + number + ";\r"));
 }
 
 TEST_F(DialerScreen, FileWithAnOddNumberOfLinesEndsTheProgramAtTheCall) {
