@@ -557,9 +557,11 @@ protected:
 };
 
 TEST_F(DialerReplyTest, OkThatComesByteByByteAsOnALineIsRecognised) {
+    // With one digit more than usual, O is the last byte of a pair.
+    dialer.SetRecipient(u"Corner Dairy"_s, u"9217-555-0100"_s);
     DialWith([](const QByteArray&) {
         Pieces bytes;
-        for (const char byte : QByteArray("ATDT217-555-0100;\r\r\nOK\r\n"))
+        for (const char byte : QByteArray("ATDT9217-555-0100;\r\r\nOK\r\n"))
             bytes.push_back({1ms, QByteArray(1, byte)});
         return bytes;
     });
